@@ -1,0 +1,34 @@
+#pragma once
+
+#include <initializer_list>
+#include <string>
+#include <string_view>
+
+namespace forcelab {
+
+/// Builds the text of an explanation: headings, sentences and lines of arithmetic.
+///
+/// Lines end in CrLf. Numbers come in as text, the very strings that the boxes show.
+class Narration {
+  public:
+    Narration& Heading(std::string_view text);  ///< a line of its own with a blank line before it
+    Narration& Sentence(std::string_view text); ///< goes on in the same paragraph, after a blank
+    Narration& Line(std::string_view text);     ///< a line of its own
+    Narration& Paragraph();                     ///< leaves an empty line
+    /// "name = a = b = c": a line of arithmetic, from left to right.
+    Narration& Chain(std::initializer_list<std::string_view> terms);
+    [[nodiscard]] const std::string& Text() const { return text_; }
+
+  private:
+    void BreakLine();
+    std::string text_;
+};
+
+/// "a × b".
+std::string Times(std::string_view a, std::string_view b);
+/// "a ÷ b".
+std::string Divided(std::string_view a, std::string_view b);
+/// The number with its unit: "12.5 MPa".
+std::string WithUnit(std::string_view number, std::string_view unit);
+
+} // namespace forcelab
