@@ -29,8 +29,10 @@ screen::Form& OpenWith(MohrMode mode, std::array<double, 3> values, int unit)
 void PaintAll(benchmark::State& state, screen::Form& form)
 {
     std::vector<screen::PictureBox*> visible;
-    for (auto* picture : form.findChildren<screen::PictureBox*>())
-        if (picture->isVisible()) visible.push_back(picture);
+    for (auto* child : form.findChildren<QWidget*>()) {
+        auto* picture = dynamic_cast<screen::PictureBox*>(child);
+        if (picture && picture->isVisible()) visible.push_back(picture);
+    }
     for (auto _ : state)
         for (screen::PictureBox* picture : visible) picture->PaintNow();
     state.counters["pictures"] = static_cast<double>(visible.size());
