@@ -6,12 +6,12 @@
 /// operation resets them all, each is reset by the module that it belongs to.
 namespace forcelab::MainModule {
 
-inline int HelpContext = 1;           ///< topic that ShowHelpTopic opens; 1 is the contents page
-inline int CurrentModule = 0;         ///< which forms UnloadModuleForms unloads
-inline bool FirstSectionUse = true;   ///< Section Properties has not been opened yet
-inline bool StartingOver = false;     ///< set by File New
-inline bool BookEdition = false;      ///< the textbook front end; nothing switches it on
-inline std::string DataPath = "./";   ///< folder of the steel tables, from the working directory
+inline int HelpContext = 1;            ///< topic that ShowHelpTopic opens; 1 is the contents page
+inline int CurrentModule = 0;          ///< which forms UnloadModuleForms unloads
+inline bool FirstSectionUse = true;    ///< Section Properties has not been opened yet
+inline bool StartingOver = false;      ///< set by File New
+inline bool BookEdition = false;       ///< the textbook front end; nothing switches it on
+inline std::string DataPath = "./";    ///< folder of the steel tables, from the working directory
 inline bool SymbolFontPresent = false; ///< Greek letters can be drawn in the font "Symbol"
 inline bool CommaDecimal = false;      ///< the system writes its decimals with a comma
 inline int DecimalChar = 46;           ///< 46 or 44; what ParseNumber takes for the decimal point
