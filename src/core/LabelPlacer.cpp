@@ -1,0 +1,199 @@
+#include "core/LabelPlacer.h"
+
+#include "core/Units.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace forcelab {
+
+namespace {
+
+constexpr std::array<double, 7> kDistances{4, 8, 13, 20, 30, 42, 56}; // pixels
+constexpr int kTurns = 8; // to each side, together the whole way round
+constexpr double kTurn = kPi / kTurns;
+constexpr double kTurnCost = 3;         // pixels of distance that a turn is worth
+constexpr double kCrossingCost = 60;    // the same for each line crossed
+constexpr double kSheetStep = 6;        // pixels, of the search over the whole sheet
+constexpr double kFarCost = 15;         // what leaving the neighbourhood is worth
+constexpr double kGap = 1.5;            // pixels between labels and to the sheet's edge
+constexpr double kLeaderFrom = 24;      // pixels
+constexpr double kSubscriptShare = 0.3; // of the text height, below and above the line
+constexpr double kSmallestFont = 6;     // points
+constexpr int kCircleSegments = 48;
+constexpr Colour kLeaderColour = Rgb(150, 150, 150);
+
+/// One bound of the clipping of a segment by a rectangle; False where nothing is left.
+bool Clip(double direction, double room, double& from, double& to)
+{
+    if (direction == 0) return room >= 0;
+    const double t = room / direction;
+    if (direction < 0)
+        from = std::max(from, t);
+    else
+        to = std::min(to, t);
+    return from <= to;
+}
+
+} // namespace
+
+void LabelPlacer::KeepOffLine(PicturePoint from, PicturePoint to)
+{
+    lines_.push_back({pic_.ToPixels(from), pic_.ToPixels(to)});
+}
+
+void LabelPlacer::KeepOffCircle(PicturePoint centre, double radius)
+{
+    const PicturePoint c = pic_.ToPixels(centre);
+    const double r = std::abs(pic_.ScaleX(radius));
+    const auto point = [&](int k) {
+        const double t = 2 * kPi * k / kCircleSegments;
+        return PicturePoint{c.X + r * std::cos(t), c.Y + r * std::sin(t)};
+    };
+    for (int k = 0; k < kCircleSegments; ++k) lines_.push_back({point(k), point(k + 1)});
+}
+
+LabelPlacer::Size LabelPlacer::SizeOf(const Label& label)
+{
+    const double height = std::abs(pic_.ScaleY(pic_.TextHeight("X")));
+    const bool raised = std::any_of(label.begin(), label.end(), [](const LabelPart& part) {
+        return part.What == LabelPart::Kind::Subscript || part.What == LabelPart::Kind::Superscript;
+    });
+    return {std::abs(pic_.ScaleX(LabelWidth(pic_, label))),
+            height * (raised ? 1 + 2 * kSubscriptShare : 1)};
+}
+
+bool LabelPlacer::IsFree(const Box& box) const
+{
+    if (box.X1 < kGap || box.Y1 < kGap || box.X2 > pic_.WidthPixels() - kGap ||
+        box.Y2 > pic_.HeightPixels() - kGap)
+        return false;
+    return std::none_of(taken_.begin(), taken_.end(), [&box](const Box& other) {
+        return box.X1 < other.X2 + kGap && other.X1 < box.X2 + kGap && box.Y1 < other.Y2 + kGap &&
+               other.Y1 < box.Y2 + kGap;
+    });
+}
+
+int LabelPlacer::Crossings(const Box& box, int atMost) const
+{
+    int count = 0;
+    for (const Segment& line : lines_) {
+        const double dx = line.To.X - line.From.X;
+        const double dy = line.To.Y - line.From.Y;
+        double from = 0;
+        double to = 1;
+        if (Clip(-dx, line.From.X - box.X1, from, to) && Clip(dx, box.X2 - line.From.X, from, to) &&
+            Clip(-dy, line.From.Y - box.Y1, from, to) && Clip(dy, box.Y2 - line.From.Y, from, to))
+            if (++count > atMost) break;
+    }
+    return count;
+}
+
+void LabelPlacer::Consider(std::optional<Found>& best, const Box& box, double cost) const
+{
+    if ((best && cost >= best->Cost) || !IsFree(box)) return;
+    const int atMost = best ? static_cast<int>((best->Cost - cost) / kCrossingCost) : 1000;
+    const int crossings = Crossings(box, atMost);
+    const double whole = cost + kCrossingCost * crossings;
+    if (!best || whole < best->Cost) best = Found{box, whole, crossings, {}};
+}
+
+std::optional<LabelPlacer::Found> LabelPlacer::SearchNear(PicturePoint at, Size size,
+                                                          double angle) const
+{
+    std::optional<Found> best;
+    for (const double distance : kDistances)
+        for (int turn = -kTurns + 1; turn <= kTurns; ++turn) {
+            const double side = angle + turn * kTurn;
+            const double across = std::cos(side);
+            const double up = std::sin(side);
+            // The box touches the point's surroundings with its nearest side or corner.
+            const double longer = std::max(std::abs(across), std::abs(up));
+            const double x = at.X + across * (size.Width / 2 / longer + distance);
+            const double y = at.Y - up * (size.Height / 2 / longer + distance);
+            const Box box{x - size.Width / 2, y - size.Height / 2, x + size.Width / 2,
+                          y + size.Height / 2};
+            Consider(best, box, distance + kTurnCost * std::abs(turn));
+        }
+    return best;
+}
+
+std::optional<LabelPlacer::Found> LabelPlacer::SearchSheet(PicturePoint at, Size size) const
+{
+    std::optional<Found> best;
+    for (double y = kGap; y + size.Height <= pic_.HeightPixels(); y += kSheetStep)
+        for (double x = kGap; x + size.Width <= pic_.WidthPixels(); x += kSheetStep) {
+            const Box box{x, y, x + size.Width, y + size.Height};
+            const double dx = std::max({0.0, box.X1 - at.X, at.X - box.X2});
+            const double dy = std::max({0.0, box.Y1 - at.Y, at.Y - box.Y2});
+            Consider(best, box, kFarCost + std::hypot(dx, dy));
+        }
+    return best;
+}
+
+std::optional<LabelPlacer::Found> LabelPlacer::Search(const LabelAnchor& anchor, Size size,
+                                                      bool mayLeave) const
+{
+    const PicturePoint at = pic_.ToPixels(anchor.At);
+    std::optional<Found> best = SearchNear(at, size, anchor.Angle);
+    if (!best || (mayLeave && best->Crossings > 0)) {
+        const auto far = SearchSheet(at, size);
+        if (far && (!best || far->Cost < best->Cost)) best = far;
+    }
+    if (best) best->Names = at;
+    return best;
+}
+
+std::optional<LabelPlacer::Found> LabelPlacer::Best(const LabelWish& wish)
+{
+    const Size size = SizeOf(wish.Text);
+    std::optional<Found> best;
+    for (const LabelAnchor& anchor : wish.Anchors) {
+        const auto found = Search(anchor, size, wish.Leader);
+        if (found && (!best || found->Cost < best->Cost)) best = found;
+    }
+    return best;
+}
+
+void LabelPlacer::DrawLeader(PicturePoint at, const Box& box)
+{
+    const PicturePoint near{std::clamp(at.X, box.X1, box.X2), std::clamp(at.Y, box.Y1, box.Y2)};
+    if (std::hypot(near.X - at.X, near.Y - at.Y) < kLeaderFrom) return;
+    const PicturePoint from = pic_.FromPixels(at);
+    const PicturePoint to = pic_.FromPixels(near);
+    pic_.ForeColor = kLeaderColour;
+    pic_.DrawWidth = 1;
+    pic_.Line(from.X, from.Y, to.X, to.Y);
+    KeepOffLine(from, to);
+}
+
+void LabelPlacer::Print(const LabelWish& wish, const Found& found)
+{
+    const Colour ink = pic_.ForeColor;
+    const bool transparent = pic_.FontTransparent;
+    if (wish.Leader) DrawLeader(found.Names, found.Where);
+    const PicturePoint middle = pic_.FromPixels(
+        {(found.Where.X1 + found.Where.X2) / 2, (found.Where.Y1 + found.Where.Y2) / 2});
+    pic_.ForeColor = wish.Ink;
+    pic_.FontTransparent = found.Crossings == 0;
+    PrintLabel(pic_, middle.X, middle.Y, wish.Text, HAlign::Centre, VAlign::Middle);
+    pic_.ForeColor = ink;
+    pic_.FontTransparent = transparent;
+    taken_.push_back(found.Where);
+}
+
+bool LabelPlacer::Place(const LabelWish& wish)
+{
+    const double fontSize = pic_.FontSize;
+    std::optional<Found> found = Best(wish);
+    while (!found && wish.Needed && pic_.FontSize > kSmallestFont) {
+        pic_.FontSize = std::max(kSmallestFont, pic_.FontSize - 1);
+        found = Best(wish);
+    }
+    if (found) Print(wish, *found);
+    pic_.FontSize = fontSize;
+    return found.has_value();
+}
+
+} // namespace forcelab

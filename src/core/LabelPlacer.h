@@ -1,0 +1,73 @@
+#pragma once
+
+#include "core/DrawingHelpers.h"
+
+#include <optional>
+#include <vector>
+
+namespace forcelab {
+
+/// A point that a label names, and the side of it that the label prefers.
+struct LabelAnchor {
+    PicturePoint At;  ///< in the picture's scale
+    double Angle = 0; ///< radians, counterclockwise as seen
+};
+
+/// A label and where it would like to stand.
+struct LabelWish {
+    std::vector<LabelAnchor> Anchors; ///< one, or several equal ones of which the best is taken
+    Label Text;
+    Colour Ink;
+    bool Needed = true; ///< else left out where the sheet has no room for it
+    bool Leader = true; ///< may move far away, with a thin line to the point
+};
+
+/// Finds places for the labels of one diagram: on the sheet, never over each other, off the
+/// lines where that is possible, and near to what they name.
+///
+/// Draw all lines first and tell the placer of them, then place the labels, the important ones
+/// first. Labels that must cross a line stand on the ground colour.
+class LabelPlacer {
+  public:
+    explicit LabelPlacer(Picture& pic) : pic_(pic) {}
+
+    void KeepOffLine(PicturePoint from, PicturePoint to);
+    void KeepOffCircle(PicturePoint centre, double radius); ///< radius in units of x
+    /// Prints the label; False where it is left out. Keeps font, size and colour of the picture.
+    bool Place(const LabelWish& wish);
+
+  private:
+    struct Box {
+        double X1, Y1, X2, Y2; ///< pixels
+    };
+    struct Segment {
+        PicturePoint From, To; ///< pixels
+    };
+    struct Size {
+        double Width, Height; ///< pixels
+    };
+    struct Found {
+        Box Where;
+        double Cost;
+        int Crossings;
+        PicturePoint Names{}; ///< pixels, the point beside which it stands
+    };
+
+    [[nodiscard]] Size SizeOf(const Label& label);
+    [[nodiscard]] bool IsFree(const Box& box) const;
+    [[nodiscard]] int Crossings(const Box& box, int atMost) const;
+    void Consider(std::optional<Found>& best, const Box& box, double cost) const;
+    [[nodiscard]] std::optional<Found> SearchNear(PicturePoint at, Size size, double angle) const;
+    [[nodiscard]] std::optional<Found> SearchSheet(PicturePoint at, Size size) const;
+    [[nodiscard]] std::optional<Found> Search(const LabelAnchor& anchor, Size size,
+                                              bool mayLeave) const;
+    [[nodiscard]] std::optional<Found> Best(const LabelWish& wish);
+    void Print(const LabelWish& wish, const Found& found);
+    void DrawLeader(PicturePoint at, const Box& box);
+
+    Picture& pic_;
+    std::vector<Segment> lines_;
+    std::vector<Box> taken_;
+};
+
+} // namespace forcelab
