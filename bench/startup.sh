@@ -8,6 +8,7 @@ set -eu
 cd "$(dirname "$0")/.."
 program=$(realpath "${1:-build/release/src/app/forcelab}")
 rounds=${2:-10}
+[ -x "$program" ] || { echo "build $program first: cmake --build --preset release" >&2; exit 1; }
 for needed in Xvfb xwininfo speedcrunch; do
     command -v $needed >/dev/null || { echo "$needed is not installed" >&2; exit 1; }
 done

@@ -26,6 +26,13 @@ using forcelab::screen::Services;
 
 bool Failed = false;
 
+// The platform without a display says for each window what it cannot do.
+void PassOn(QtMsgType /*type*/, const QMessageLogContext& /*context*/, const QString& message)
+{
+    if (!message.startsWith(QLatin1String("This plugin does not support")))
+        std::fprintf(stderr, "%s\n", qPrintable(message));
+}
+
 void Complain(const std::string& what)
 {
     std::fprintf(stderr, "gallery: %s\n", what.c_str());
@@ -237,6 +244,7 @@ void DrawHelp(const QDir& folder)
 
 int main(int argc, char** argv)
 {
+    qInstallMessageHandler(PassOn);
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
