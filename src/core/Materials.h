@@ -8,11 +8,11 @@ namespace forcelab {
 
 /// Columns of MaterialConstants.
 enum MaterialConstant : int {
-    kModulusKsi,      ///< E, ksi
-    kModulusGPa,      ///< E, GPa
-    kExpansionPerF,   ///< coefficient of thermal expansion, 1E-06 per degree F
-    kExpansionPerC,   ///< coefficient of thermal expansion, 1E-06 per degree C
-    kPoisson,         ///< Poisson's ratio
+    kModulusKsi,    ///< E, ksi
+    kModulusGPa,    ///< E, GPa
+    kExpansionPerF, ///< coefficient of thermal expansion, 1E-06 per degree F
+    kExpansionPerC, ///< coefficient of thermal expansion, 1E-06 per degree C
+    kPoisson,       ///< Poisson's ratio
 };
 /// Columns of MaterialStrengths.
 enum MaterialStrength : int { kYieldPsi, kYieldKPa };

@@ -2,10 +2,13 @@
 
 #include "core/Materials.h"
 #include "core/NumericText.h"
+#include "core/screen/GuardedCall.h"
 
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QSignalBlocker>
+#include <QWheelEvent>
 
 namespace forcelab::screen {
 
@@ -26,7 +29,7 @@ void TextBox::focusOutEvent(QFocusEvent* event)
     QLineEdit::focusOutEvent(event);
     const bool stays =
         event->reason() == Qt::PopupFocusReason || event->reason() == Qt::ActiveWindowFocusReason;
-    if (!stays && OnLostFocus) OnLostFocus();
+    if (!stays && OnLostFocus) GuardedCall(*this, OnLostFocus);
 }
 
 void TextBox::mouseReleaseEvent(QMouseEvent* event)
@@ -40,7 +43,7 @@ void TextBox::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
         event->accept();
-        if (OnEnter) OnEnter();
+        if (OnEnter) GuardedCall(*this, OnEnter);
         return;
     }
     QLineEdit::keyPressEvent(event);
@@ -51,19 +54,42 @@ double TextBoxValue(const TextBox& box)
     return StringValue(box.Text());
 }
 
+namespace {
+
+// Filling a list chooses nothing, so no handler hears of it.
+void Fill(ComboBox& combo, std::span<const std::string_view> names)
+{
+    const QSignalBlocker quiet(combo);
+    combo.Clear();
+    for (const std::string_view name : names) combo.AddItem(name);
+    combo.SetListIndex(-1);
+}
+
+} // namespace
+
 void FillMaterialList(ComboBox& combo)
 {
-    combo.Clear();
-    for (const std::string_view name : MaterialNames()) combo.AddItem(name);
-    combo.SetListIndex(-1);
+    Fill(combo, MaterialNames());
     ++MaterialTableLoaded;
 }
 
 void FillShearModulusList(ComboBox& combo)
 {
-    combo.Clear();
-    for (const std::string_view name : ShearMaterialNames()) combo.AddItem(name);
-    combo.SetListIndex(-1);
+    Fill(combo, ShearMaterialNames());
+}
+
+ComboBox::ComboBox(QWidget* parent) : QComboBox(parent)
+{
+    setFocusPolicy(Qt::StrongFocus);
+}
+
+// A wheel that scrolls the column of inputs must not choose on its way.
+void ComboBox::wheelEvent(QWheelEvent* event)
+{
+    if (hasFocus())
+        QComboBox::wheelEvent(event);
+    else
+        event->ignore();
 }
 
 void Describe(QWidget& widget, std::string_view accessibleName, std::string_view tip)

@@ -71,11 +71,14 @@ class CheckBox : public QCheckBox {
 /// A list that drops down. Choosing a row, by hand or in code, fires currentIndexChanged.
 class ComboBox : public QComboBox {
   public:
-    explicit ComboBox(QWidget* parent = nullptr) : QComboBox(parent) {}
+    explicit ComboBox(QWidget* parent = nullptr);
     void Clear() { clear(); }
     void AddItem(std::string_view item) { addItem(Q(item)); }
     [[nodiscard]] int ListIndex() const { return currentIndex(); } ///< -1: nothing chosen
     void SetListIndex(int index) { setCurrentIndex(index); }
+
+  protected:
+    void wheelEvent(QWheelEvent* event) override;
 };
 
 /// Fills a list with the materials that have an elastic modulus, in the order of their table.

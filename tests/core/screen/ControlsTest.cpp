@@ -1,9 +1,11 @@
+#include "core/ArithmeticFault.h"
 #include "core/Materials.h"
 #include "core/screen/ControlArray.h"
 #include "core/screen/Layout.h"
 #include "support/FormTest.h"
 
 #include <QVBoxLayout>
+#include <QWheelEvent>
 
 namespace forcelab::test {
 namespace {
@@ -127,6 +129,37 @@ TEST_F(Controls, TheMaterialListHasTheRowsOfItsTable)
     ASSERT_EQ(sample_->cboMaterial->count(), 20);
     EXPECT_EQ(sample_->cboMaterial->itemText(10), "Steel-A36 Structural");
     EXPECT_EQ(sample_->cboMaterial->ListIndex(), -1);
+}
+
+TEST_F(Controls, FillingAListChoosesNothing)
+{
+    int chosen = 0;
+    sample_->On(sample_->cboMaterial, &QComboBox::currentIndexChanged, [&chosen] { ++chosen; });
+    screen::FillMaterialList(*sample_->cboMaterial);
+    EXPECT_EQ(chosen, 0);
+    sample_->cboMaterial->SetListIndex(3);
+    EXPECT_EQ(chosen, 1);
+}
+
+TEST_F(Controls, TheWheelOverAListThatHasNotTheFocusChoosesNothing)
+{
+    screen::FillMaterialList(*sample_->cboMaterial);
+    sample_->cboMaterial->SetListIndex(3);
+    Widget("txtStress(0)").setFocus();
+    QWheelEvent wheel({5, 5}, sample_->cboMaterial->mapToGlobal(QPointF(5, 5)), {}, {0, -120},
+                      Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(sample_->cboMaterial, &wheel);
+    EXPECT_EQ(sample_->cboMaterial->ListIndex(), 3);
+}
+
+TEST_F(Controls, AFaultInALostFocusHandlerIsGuarded)
+{
+    sample_->txtStress(1).OnLostFocus = [] { throw ArithmeticFault("test"); };
+    Type("txtStress(1)", "5");
+    Messages->AcceptAny = true;
+    sample_->txtStress(0).setFocus(Qt::TabFocusReason);
+    ASSERT_EQ(Messages->Shown.size(), 1u);
+    EXPECT_EQ(Messages->Shown[0].Title, "Forcelab");
 }
 
 TEST_F(Controls, TheShearModulusListHasItsOwnRows)
