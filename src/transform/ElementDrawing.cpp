@@ -229,9 +229,9 @@ void DrawPrincipalElement(Picture& pic, const StressState& state, const MohrEntr
     view.Values = {state.PrincipalOne, state.PrincipalTwo, 0};
     view.TurnedAxes = {"1", "2"};
     view.Text[0] = Named(pic, QuantityName(entry.Mode, Quantity::One),
-                         NormalText(state, entry, state.PrincipalOne));
+                         NormalWithSense(state, entry, state.PrincipalOne));
     view.Text[1] = Named(pic, QuantityName(entry.Mode, Quantity::Two),
-                         NormalText(state, entry, state.PrincipalTwo));
+                         NormalWithSense(state, entry, state.PrincipalTwo));
     Draw(pic, view, entry);
 }
 
@@ -241,7 +241,7 @@ void DrawMaxShearElement(Picture& pic, const StressState& state, const MohrEntry
     if (IsInertia(entry)) return pic.Cls();
     ElementView view = ViewAt(state, entry, MaxShearDirection(state));
     view.Values.NormalX = view.Values.NormalY = state.CircleCentre;
-    const std::string normal = NormalText(state, entry, state.CircleCentre);
+    const std::string normal = NormalWithSense(state, entry, state.CircleCentre);
     view.Text = {Plain(normal), Plain(normal),
                  Named(pic, QuantityName(entry.Mode, Quantity::MaxShear),
                        ShearText(state, entry, state.CircleRadius))};

@@ -58,15 +58,6 @@ std::string ShearNumber(const StressState& state, const MohrEntry& entry, double
     return MohrText(state, entry, shear * ShearFactor(entry.Mode));
 }
 
-std::string NormalWithSense(const StressState& state, const MohrEntry& entry, double normal)
-{
-    const std::string text = NormalText(state, entry, normal);
-    if (entry.Mode == MohrMode::MomentOfInertia) return text;
-    const std::string size = NormalText(state, entry, std::abs(normal));
-    if (ShowsZero(MohrText(state, entry, normal))) return size;
-    return size + (normal < 0 ? " (C)" : " (T)");
-}
-
 std::string ShearWithSense(const StressState& state, const MohrEntry& entry, double shear)
 {
     if (entry.Mode == MohrMode::MomentOfInertia) return ShearText(state, entry, shear);
@@ -113,6 +104,15 @@ std::string ShearText(const StressState& state, const MohrEntry& entry, double s
 std::string NormalText(const StressState& state, const MohrEntry& entry, double normal)
 {
     return MohrText(state, entry, normal) + " " + std::string(kMohrUnits[entry.Unit]);
+}
+
+std::string NormalWithSense(const StressState& state, const MohrEntry& entry, double normal)
+{
+    const std::string text = NormalText(state, entry, normal);
+    if (entry.Mode == MohrMode::MomentOfInertia) return text;
+    const std::string size = NormalText(state, entry, std::abs(normal));
+    if (ShowsZero(MohrText(state, entry, normal))) return size;
+    return size + (normal < 0 ? " (C)" : " (T)");
 }
 
 std::string_view ShearStrainUnit(const MohrEntry& entry)

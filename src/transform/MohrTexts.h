@@ -22,6 +22,8 @@ std::string QuantityText(const StressState& state, const MohrEntry& entry, Quant
 std::string ShearText(const StressState& state, const MohrEntry& entry, double shear);
 /// A normal value as shown, with its unit.
 std::string NormalText(const StressState& state, const MohrEntry& entry, double normal);
+/// The size of a normal value with its unit and " (T)" or " (C)"; inertia keeps its sign.
+std::string NormalWithSense(const StressState& state, const MohrEntry& entry, double normal);
 /// " rad" or "E-06 rad" behind a shear strain.
 std::string_view ShearStrainUnit(const MohrEntry& entry);
 /// How much larger the shown shear is than the circle's ordinate: 2 in strain, else 1.

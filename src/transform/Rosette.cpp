@@ -63,7 +63,7 @@ bool ReadModuli(StressState& state, const StrainToStress& stresses)
 {
     const double e = std::abs(ParseNumber(stresses.ElasticModulus)) *
                      ElasticModulusFactor(stresses.ElasticModulusUnit);
-    const double nu = std::abs(ParseNumber(stresses.Poisson));
+    const double nu = std::abs(StringValue(stresses.Poisson));
     state.ModulusOfElasticity = Finite(e);
     state.PoissonRatio = nu;
     return e > 0 && nu > 0 && std::abs(nu - 1) >= 0.0001 && nu <= 1;

@@ -265,10 +265,10 @@ TEST(Elements, CarryValuesAndTurn)
     const Solved solved = PlaneStress(50, -10, 40, 30);
     RecordingPicture pic(420, 420);
     DrawPrincipalElement(pic, solved.State, solved.Entry);
-    EXPECT_THAT(pic.Texts(), IsSupersetOf({Local("Sigma 1 = 70.0 MPa"),
-                                           Local("Sigma 2 = -30.0 MPa"), Local("26.57° CW")}));
+    EXPECT_THAT(pic.Texts(), IsSupersetOf({Local("Sigma 1 = 70.0 MPa (T)"),
+                                           Local("Sigma 2 = 30.0 MPa (C)"), Local("26.57° CW")}));
     DrawMaxShearElement(pic, solved.State, solved.Entry);
-    EXPECT_THAT(pic.Texts(), IsSupersetOf({Local("20.0 MPa"), Local("Tau Max XY = 50.0 MPa"),
+    EXPECT_THAT(pic.Texts(), IsSupersetOf({Local("20.0 MPa (T)"), Local("Tau Max XY = 50.0 MPa"),
                                            Local("18.43° CCW")}));
     DrawRotatedElement(pic, solved.State, solved.Entry);
     EXPECT_THAT(pic.Texts(), Contains(Local("30.0° CCW")));
