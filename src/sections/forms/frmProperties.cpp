@@ -114,8 +114,7 @@ void frmProperties::SelectShape(int menuIndex)
 {
     CurrentSection.SectionComputed = false;
     picShapeDefine->hide();
-    lblChooseShape->hide();
-    fraSectionProperties->show();
+    ShowInputs();
     HideResults();
     if (!collected_) CollectKeep();
     collected_ = false;

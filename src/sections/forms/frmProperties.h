@@ -87,7 +87,8 @@ class frmProperties : public frmPropertiesLayout {
     void ConnectMaterials();
     void ConnectSteel();
 
-    int shape_ = kNoShape; ///< the shape whose entries the controls show
+    std::array<QAction*, kShapes + 1> shapes_{}; ///< menu items, by shape
+    int shape_ = kNoShape;                       ///< the shape whose entries the controls show
     bool quiet_ = false;
     bool collected_ = false; ///< the shape's entries are saved already
     int modulusUnit_ = 0;

@@ -49,6 +49,7 @@ void frmProperties::BuildMenus()
     AddShapes(AddMenu("mnuSpecial", "&Other"), kSpecified, kSpecified);
     AddMenuItem("mnuHelpProperties", "&Help", [this] { mnuHelpProperties_Click(); });
     new ButtonFirst(menuBar(), &cmdShape(1));
+    choShapes->Fill([this](int shape) { return shapes_[std::size_t(shape)]; });
 }
 
 // The items of a menu array are counted from 0; a menu with one item has no array.
@@ -59,10 +60,11 @@ void frmProperties::AddShapes(QMenu* menu, int first, int last)
         const QString name = first == last
                                  ? screen::Q(info.Menu)
                                  : screen::ArrayName(std::string(info.Menu).c_str(), shape - first);
-        AddItem(menu, name.toLatin1().constData(), info.Caption, [this, shape] {
-            if (IsSteel(shape)) return mnuAISC_Click(shape - kSteelW);
-            mnuShape_Click(shape);
-        });
+        shapes_[std::size_t(shape)] =
+            AddItem(menu, name.toLatin1().constData(), info.Caption, [this, shape] {
+                if (IsSteel(shape)) return mnuAISC_Click(shape - kSteelW);
+                mnuShape_Click(shape);
+            });
     }
 }
 

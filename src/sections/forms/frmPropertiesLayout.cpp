@@ -32,9 +32,7 @@ constexpr int kSpacingColour = 14; // of the box of the spacing
 constexpr int kSpacingBox = 4;
 constexpr int kMaterialInks[] = {0, 15, 0}; // of the boxes of a modulus: one material, A, B
 constexpr const char* kWidestNumber = "00000.00000";
-constexpr const char* kChooseShape =
-    "Choose a shape from the menus above: rectangular, flanged, double or circular, a steel shape "
-    "from the tables, or a section whose properties you know.";
+constexpr const char* kChooseShape = "Choose a shape from the menus or from the pictures below.";
 constexpr const char* kModulusNote =
     "Beams and columns take the moduli of a composite section as psi.";
 constexpr const char* kSteelUnit = "The tables are in inches.";
@@ -141,8 +139,7 @@ void frmPropertiesLayout::SetMaterialCaptions()
     }
     chkElasticModulus->SetCaption("Composite Beam ");
     lblModulusNote->SetCaption(kModulusNote);
-    for (Label* quiet : {&lblEmod(1), &lblEmod(2), lblModulusNote, lblSteelUnit, lblChooseShape})
-        Quieten(*quiet);
+    for (Label* quiet : {&lblEmod(1), &lblEmod(2), lblModulusNote, lblSteelUnit}) Quieten(*quiet);
     for (const auto& [index, list] : cboElasticModulus.Members())
         list->setPlaceholderText(Q("Choose a material"));
     for (screen::ComboBox* grades : {cboSteelGrade, cboTubeGrade})
@@ -170,8 +167,11 @@ void frmPropertiesLayout::SetSizes()
     palette.setColor(QPalette::Base, Qt::transparent);
     txtSteelGrade->setPalette(palette);
     Embolden(*txtSteelGrade);
-    Embolden(*lblShapeTitle, kTitleSize);
-    lblSteelGrade(1).setWordWrap(true);
+    for (Label* title : {lblShapeTitle, lblChooseShape}) Embolden(*title, kTitleSize);
+    for (const auto& [index, label] : lblSteelGrade.Members()) {
+        label->setWordWrap(true);
+        label->setMinimumHeight(2 * label->fontMetrics().lineSpacing()); // the list keeps its size
+    }
 }
 
 BoxSize frmPropertiesLayout::SizeOfBoxes() const
@@ -262,9 +262,11 @@ void frmPropertiesLayout::BuildWindow()
     across->setSpacing(2 * kGap);
     across->setStretch(1, 1);
     fraSectionProperties->setLayout(across);
-    lblChooseShape->setAlignment(Qt::AlignCenter);
+    auto* choice = Down({lblChooseShape, choShapes});
+    choice->setStretch(1, 1);
+    fraChooseShape->setLayout(choice);
     auto* central = new QWidget;
-    auto* all = Down({lblChooseShape, fraSectionProperties});
+    auto* all = Down({fraChooseShape, fraSectionProperties});
     all->setContentsMargins(screen::kMargin, screen::kMargin, screen::kMargin, screen::kMargin);
     central->setLayout(all);
     setCentralWidget(central);
@@ -291,6 +293,12 @@ void frmPropertiesLayout::DescribeControls()
         Describe(*option, "Elastic modulus in " + option->text().toStdString());
     for (const auto& [family, option] : optAShape.Members())
         Describe(*option, kFamilies[family].Name, kFamilies[family].Name);
+}
+
+void frmPropertiesLayout::ShowInputs()
+{
+    fraChooseShape->hide();
+    fraSectionProperties->show();
 }
 
 void frmPropertiesLayout::ShowControlsOf(int shapeIndex)

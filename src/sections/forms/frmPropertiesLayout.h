@@ -6,6 +6,7 @@
 #include "core/screen/PictureBox.h"
 #include "sections/SectionDrawing.h"
 #include "sections/SectionInput.h"
+#include "sections/forms/ShapeChooser.h"
 #include "sections/forms/SwatchBox.h"
 
 #include <QListWidget>
@@ -20,6 +21,8 @@ class frmPropertiesLayout : public screen::Form {
   protected:
     frmPropertiesLayout();
 
+    /// Shows the inputs and the drawing in place of the choice of shapes.
+    void ShowInputs();
     /// Shows the boxes and swatches of a shape, colours the boxes and names them.
     void ShowControlsOf(int shapeIndex);
     /// The moduli of one material, or of two.
@@ -33,6 +36,8 @@ class frmPropertiesLayout : public screen::Form {
     /// The first box in the order of the tabs; nothing where none is shown.
     [[nodiscard]] screen::TextBox* FirstBox() const;
 
+    QWidget* fraChooseShape = Make<QWidget>("fraChooseShape");
+    ShapeChooser* choShapes = Make<ShapeChooser>("choShapes");
     screen::Label* lblChooseShape = Make<screen::Label>("lblChooseShape");
     QWidget* fraSectionProperties = Make<QWidget>("fraSectionProperties");
 

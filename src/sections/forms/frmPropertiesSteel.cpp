@@ -68,8 +68,7 @@ void frmProperties::mnuAISC_Click(int Index)
     if (SteelFilesMissing) return;
     CollectKeep();
     collected_ = true;
-    lblChooseShape->hide();
-    fraSectionProperties->show();
+    ShowInputs();
     ShowSteelFrame(true);
     chkElasticModulus->setChecked(false);
     cmdShape(1).setEnabled(true);

@@ -295,6 +295,20 @@ TEST_F(PropertiesForm, OpensWithoutAShape)
     EXPECT_FALSE(MainModule::FirstSectionUse);
 }
 
+TEST_F(PropertiesForm, AShapeIsChosenByItsPicture)
+{
+    Open("frmProperties");
+    Click("cmdChoose(7)");
+    EXPECT_EQ(CurrentSection.ShapeIndex, kZShape);
+    EXPECT_FALSE(IsVisible("fraChooseShape"));
+    EXPECT_EQ(Shown("lblShapeTitle"), "User-defined Z Shape");
+    Forms::Unload("frmProperties");
+    Open("frmProperties");
+    Click("cmdChoose(25)");
+    EXPECT_TRUE(IsVisible("fraAISCDefine"));
+    EXPECT_EQ(CurrentSection.ShapeIndex, kSteelTS);
+}
+
 // Every shape by its menu item, in the order of the catalogue.
 std::vector<std::string> AllShapes()
 {
