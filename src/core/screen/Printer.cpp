@@ -5,6 +5,7 @@
 
 #include <QPagedPaintDevice>
 #include <QPainter>
+#include <QPrinter>
 
 namespace forcelab::screen {
 
@@ -56,6 +57,12 @@ void Printer::NewPage()
 void Printer::EndDoc()
 {
     if (Ready()) it_->Painter.end();
+}
+
+void Printer::Abort()
+{
+    if (auto* paper = dynamic_cast<QPrinter*>(it_->Device.get())) paper->abort();
+    EndDoc();
 }
 
 std::unique_ptr<Printer> AskForPrinter(QWidget* owner)

@@ -26,6 +26,8 @@ class Printer {
     std::unique_ptr<PainterPicture> Area(double left, double top, double width, double height);
     void NewPage();
     void EndDoc();
+    /// Gives the document up; a printer prints nothing of it.
+    void Abort();
 
   private:
     struct Implementation;
