@@ -1,8 +1,12 @@
 #include "app/FormList.h"
 
+#include "core/MainModule.h"
 #include "core/forms/frmAbout.h"
 #include "core/forms/frmMainMenu.h"
 #include "core/screen/Forms.h"
+#include "sections/SectionRecord.h"
+#include "sections/forms/frmCrossSection.h"
+#include "sections/forms/frmProperties.h"
 #include "transform/forms/frmFailure.h"
 #include "transform/forms/frmMohr.h"
 
@@ -24,6 +28,9 @@ void RegisterForms()
     Register<frmAbout>("frmAbout");
     Register<transform::frmMohr>("frmMohr");
     Register<transform::frmFailure>("frmFailure");
+    Register<sections::frmProperties>("frmProperties");
+    Register<sections::frmCrossSection>("frmCrossSection");
+    MainModule::ForgetSection = sections::ForgetSection;
 }
 
 } // namespace forcelab

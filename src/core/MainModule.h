@@ -16,7 +16,10 @@ inline bool SymbolFontPresent = false; ///< Greek letters can be drawn in the fo
 inline bool CommaDecimal = false;      ///< the system writes its decimals with a comma
 inline int DecimalChar = 46;           ///< 46 or 44; what ParseNumber takes for the decimal point
 inline int ScrollBarPixels = 0;        ///< width of a scroll bar plus 2, pixels
-inline int ShapeIndex = 0;             ///< shape code of the current section; 0: none
+
+/// Leaves no current section. The program sets it to what the sections module does for that, so
+/// that the shell knows nothing of sections.
+inline void (*ForgetSection)() = [] {};
 
 /// Who opened frmProperties and gets the screen back: 1 beams, 2 columns, 3 main menu,
 /// 12000 combined loading.

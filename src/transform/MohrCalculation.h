@@ -11,21 +11,21 @@ namespace forcelab::transform {
 
 /// What a rosette's frame of stresses says.
 struct StrainToStress {
-    bool Wanted = false;          ///< chkRosette
-    int StressOrStrain = 0;       ///< optStressOrStrain: 0 plane stress, 1 plane strain
-    std::string ElasticModulus;   ///< txtElasticModulus
-    int ElasticModulusUnit = 0;   ///< optElasticModulus: 0 psi, 1 ksi, 2 MPa, 3 GPa
-    std::string Poisson;          ///< txtPoisson
-    int StressUnit = 0;           ///< optUnitsStress: 0 psi, 1 ksi, 2 kPa, 3 MPa
+    bool Wanted = false;        ///< chkRosette
+    int StressOrStrain = 0;     ///< optStressOrStrain: 0 plane stress, 1 plane strain
+    std::string ElasticModulus; ///< txtElasticModulus
+    int ElasticModulusUnit = 0; ///< optElasticModulus: 0 psi, 1 ksi, 2 MPa, 3 GPa
+    std::string Poisson;        ///< txtPoisson
+    int StressUnit = 0;         ///< optUnitsStress: 0 psi, 1 ksi, 2 kPa, 3 MPa
 };
 
 /// What the boxes and options of frmMohr say.
 struct MohrEntry {
     MohrMode Mode = MohrMode::PlaneStress;
-    std::array<std::string, 3> Text;           ///< txtStress(0) to (2)
-    std::array<bool, 3> Negative{};            ///< the second option of each sign pair is chosen
-    int Unit = 0;                              ///< optStressUnits
-    bool ShowAbsMaxShear = false;              ///< chkAbsMaxShear, where the analysis offers it
+    std::array<std::string, 3> Text; ///< txtStress(0) to (2)
+    std::array<bool, 3> Negative{};  ///< the second option of each sign pair is chosen
+    int Unit = 0;                    ///< optStressUnits
+    bool ShowAbsMaxShear = false;    ///< chkAbsMaxShear, where the analysis offers it
     StrainToStress Stresses;
 };
 

@@ -181,7 +181,7 @@ void frmMainMenu::mnuStartOver_Click()
 {
     MainModule::StartingOver = true;
     for (const std::string_view form : kModuleForms) Forms::Unload(form);
-    MainModule::ShapeIndex = 0;
+    MainModule::ForgetSection();
 }
 
 void frmMainMenu::mnuExit_Click()

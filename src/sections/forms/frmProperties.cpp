@@ -88,7 +88,6 @@ void frmProperties::Form_QueryUnload(bool& cancel, int unloadMode)
 void frmProperties::Form_Unload()
 {
     ForgetSection();
-    MainModule::ShapeIndex = kNoShape;
 }
 
 void frmProperties::mnuBack_Click()
@@ -119,7 +118,6 @@ void frmProperties::SelectShape(int menuIndex)
     if (!collected_) CollectKeep();
     collected_ = false;
     shape_ = menuIndex + 1;
-    MainModule::ShapeIndex = shape_;
     const KeptShape& kept = kept_[shape_];
     assigned_ = kept.Kept ? kept.Section.ElementColour : UnassignedSwatches();
     SectionEntry entry;

@@ -18,6 +18,7 @@ using testing::IsEmpty;
 
 std::vector<std::string> Happened;
 int Ended = 0;
+int SectionsForgotten = 0;
 
 // Stands in for a module's form and notes its life.
 class Stub : public Form {
@@ -62,7 +63,8 @@ class MainMenu : public FormTest {
     {
         Happened.clear();
         Ended = 0;
-        MainModule::ShapeIndex = 0;
+        SectionsForgotten = 0;
+        MainModule::ForgetSection = [] { ++SectionsForgotten; };
         Forms::Register("frmMainMenu", [] {
             auto* form = new frmMainMenu;
             form->EndProgram = [] { ++Ended; };
@@ -440,12 +442,11 @@ TEST_F(MainMenu, FileNewUnloadsTheModulesInOrderAndForgetsTheSection)
         Forms::Load(form);
         expected.push_back("unload " + form);
     }
-    MainModule::ShapeIndex = 7;
     Happened.clear();
     Trigger("mnuStartOver");
     EXPECT_EQ(Happened, expected);
     EXPECT_TRUE(MainModule::StartingOver);
-    EXPECT_EQ(MainModule::ShapeIndex, 0);
+    EXPECT_EQ(SectionsForgotten, 1);
     EXPECT_TRUE(Forms::IsVisible("frmMainMenu"));
     EXPECT_EQ(Ended, 0);
 }

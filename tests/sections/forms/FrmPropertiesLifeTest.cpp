@@ -69,7 +69,6 @@ TEST_F(PropertiesLife, UnloadedItStartsAnew)
     ComputeShape("mnuRectangular(0)", {"4", "10"});
     Forms::Unload("frmProperties");
     EXPECT_EQ(CurrentSection.ShapeIndex, 0);
-    EXPECT_EQ(MainModule::ShapeIndex, 0);
     Open("frmProperties");
     EXPECT_FALSE(IsVisible("fraSectionProperties"));
     Trigger("mnuRectangular(0)");

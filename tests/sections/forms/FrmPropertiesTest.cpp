@@ -336,7 +336,6 @@ TEST_F(PropertiesForm, EveryShapeShowsWhatTheCatalogueSays)
         EXPECT_EQ(MenuItem(items[std::size_t(shape) - 1]).text().toStdString(), info.Caption);
         Trigger(items[std::size_t(shape) - 1]);
         EXPECT_EQ(CurrentSection.ShapeIndex, shape);
-        EXPECT_EQ(MainModule::ShapeIndex, shape);
         if (!IsSteel(shape)) {
             EXPECT_EQ(Shown("lblShapeTitle"), info.Title);
         }

@@ -27,7 +27,6 @@ class PropertiesFormTest : public test::FormTest {
         CurrentSection = {};
         CurrentEntry = {};
         transform::CurrentHandOver = {};
-        MainModule::ShapeIndex = 0;
         MainModule::SectionCaller = 3;
         MainModule::DataPath = SteelFolder();
         screen::Forms::Register("frmProperties", [] { return new frmProperties; });
