@@ -11,7 +11,7 @@
 namespace forcelab::test {
 
 /// Computes a printed expression: numbers in the regional separators with "E-06" or "°" behind
-/// them, + - × ÷, parentheses, √( ), the square ², sin, cos and atan of degrees.
+/// them, + - × ÷, parentheses, √( ), the powers ² ³ ⁴, sin, cos and atan of degrees.
 /// Nothing where the text is no such expression as a whole.
 class PrintedArithmetic {
   public:
@@ -79,8 +79,10 @@ class PrintedArithmetic {
     }
     Value Square()
     {
-        Value value = Primary();
-        if (value && Take("²")) value = *value * *value;
+        const Value value = Primary();
+        if (value && Take("²")) return *value * *value;
+        if (value && Take("³")) return *value * *value * *value;
+        if (value && Take("⁴")) return *value * *value * *value * *value;
         return value;
     }
     Value Parenthesised()
@@ -144,7 +146,7 @@ inline std::vector<std::string> Terms(const std::string& line)
 {
     std::vector<std::string> terms;
     std::size_t start = 0;
-    for (std::size_t at; (at = line.find(" = ", start)) != std::string::npos; start = at + 3)
+    for (std::size_t at = 0; (at = line.find(" = ", start)) != std::string::npos; start = at + 3)
         terms.push_back(line.substr(start, at - start));
     terms.push_back(line.substr(start));
     return terms;

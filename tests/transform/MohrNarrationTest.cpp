@@ -21,7 +21,7 @@ namespace {
 bool IsNumeric(std::string term)
 {
     for (const std::string word : {"sin", "cos", "atan", "E-", "E+"})
-        for (std::size_t at; (at = term.find(word)) != std::string::npos;)
+        for (std::size_t at = 0; (at = term.find(word)) != std::string::npos;)
             term.erase(at, word.size());
     const auto isLetter = [](unsigned char c) { return c < 128 && std::isalpha(c) != 0; };
     return std::none_of(term.begin(), term.end(), isLetter);

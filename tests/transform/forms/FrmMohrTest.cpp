@@ -8,7 +8,6 @@ namespace forcelab::transform {
 namespace {
 
 using test::Local;
-using test::MsgBox;
 using test::Near;
 using testing::HasSubstr;
 

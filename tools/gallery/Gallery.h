@@ -1,0 +1,62 @@
+#pragma once
+
+#include <QDir>
+#include <QSize>
+
+#include <string>
+#include <vector>
+
+/// The pieces from which the pictures of the forms are made: scenes, each a form with a worked
+/// problem, and the stage that plays them.
+namespace forcelab::gallery {
+
+/// One thing that a person would do on a form.
+struct Step {
+    enum class Kind {
+        Text,  ///< types into a box, or picks a line of a list
+        Click, ///< clicks a button, option or check box
+        Menu,
+        Key, ///< one letter
+    } What;
+    std::string Name; ///< of the control
+    std::string Value;
+};
+using Steps = std::vector<Step>;
+
+Step Text(const std::string& name, const std::string& value);
+Step Click(const std::string& name);
+Step Menu(const std::string& name);
+Step Key(const std::string& name, const std::string& letter);
+Steps operator+(Steps first, const Steps& second);
+
+struct Scene {
+    const char* File;
+    const char* Form;
+    QSize Size;
+    Steps Before; ///< while the form is not shown yet
+    Steps Then;
+    const char* Opens = nullptr; ///< a further form that the steps bring up; it is the picture
+    Steps There = {};            ///< the steps on that form
+};
+
+inline constexpr QSize kUsual{1280, 800};
+inline constexpr QSize kSmall{1024, 700};
+
+std::vector<Scene> MenuScenes();
+std::vector<Scene> MohrScenes();
+std::vector<Scene> FailureScenes();
+std::vector<Scene> SectionScenes();
+std::vector<Scene> ReportScenes();
+
+/// Tells what went wrong; the gallery then ends with a failure.
+void Complain(const std::string& what);
+bool HasFailed();
+
+/// Services that answer as a usual screen does and expect no message.
+void SetServices();
+/// Plays a scene from the start and writes its picture.
+void Draw(const Scene& scene, const QDir& folder);
+/// Writes the picture of a window.
+void Save(QWidget& window, const QDir& folder, const char* name);
+
+} // namespace forcelab::gallery
