@@ -10,6 +10,7 @@ namespace forcelab::beams {
 
 namespace {
 
+constexpr double kSameUnit = 1e-12;
 constexpr double kLargeLoad = 100; // from there on two decimals tell enough
 
 std::string UniformText(double load)
@@ -172,6 +173,9 @@ void BeamTeller::ListLoads() const
         Text.Sentence("Dead and live loads are multiplied by their factors and added.");
     if (Beam.FactoredLoads && Case != kFactored)
         Text.Sentence("Dead and live loads are added without factors: these are service loads.");
+    if (std::abs(momentFactor_ / (forceFactor_ * lengthFactor_) - 1) > kSameUnit)
+        Text.Sentence("The last number of a line brings products of " + ForceUnit() + " and " +
+                      LengthUnit() + " to " + MomentUnit() + ".");
     for (int row = 1; row <= Beam.LoadCount; ++row) ListLoad(row);
 }
 

@@ -137,6 +137,44 @@ TEST_P(FiftyBeams, CarryTheNumbersOfTheDiagrams)
 
 INSTANTIATE_TEST_SUITE_P(Seeds, FiftyBeams, testing::Range(1U, 51U));
 
+/// Loads at the same places, at the ends and supports, backwards, very large and very small.
+BeamRecord AwkwardBeam(unsigned seed)
+{
+    Dice dice(seed);
+    BeamRecord beam = Beam(kTwoSupports, 10, 2, 10, kFoot);
+    if (seed % 3 != 0) beam = Cantilever(1 + int(seed % 3), 10, kFoot);
+    const double size = std::pow(10.0, dice.Whole(-6, 7));
+    for (int i = 0; i < 9; ++i) {
+        const bool metric = dice.Whole(0, 1) == 1; // 3.048 m is 10 ft, but for the last bit
+        const double place = metric ? 0.3048 : 1;
+        Add(beam, {dice.Whole(0, 5), place * dice.Whole(0, 5) * 2, place * dice.Whole(0, 5) * 2,
+                   metric ? kMetre : kFoot, size * dice.Whole(0, 9), 0, dice.Whole(0, 3)});
+    }
+    return beam;
+}
+
+TEST(BeamExplanations, HoldForAwkwardBeams)
+{
+    for (unsigned seed = 1; seed <= 60; ++seed) {
+        SCOPED_TRACE(seed);
+        const int unit = int(seed % 4);
+        const Told told = Tell(AwkwardBeam(seed), {unit, unit, unit, 0, 0, 1});
+        EXPECT_GT(ProveText(BeamExplanations(told.View())), 4);
+        for (const Diagram diagram : kDiagrams) ProveText(DisplaySingularity(told.View(), diagram));
+    }
+}
+
+/// Redo may bring back a load that lies beyond a beam that has since become shorter.
+TEST(BeamExplanations, StandALoadOffTheBeam)
+{
+    BeamRecord beam = Simple(10, kFoot);
+    Add(beam, kPointDown, 15, 0, 100, kLb);
+    const Told told = Tell(beam, {kFoot, kLb, 0, 0, 0, 1});
+    EXPECT_THAT(BeamExplanations(told.View()), HasSubstr(Local("A = Sum ÷ (B - A)")));
+    EXPECT_EQ(told.Beam.Curves.CurveX[kCurvePoints], 120);
+    EXPECT_NE(ExplainLoadDiagram(told.View(), 1), "");
+}
+
 Told FirstExample()
 {
     BeamRecord beam = Simple(10, kMetre);
