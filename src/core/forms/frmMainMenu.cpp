@@ -170,10 +170,18 @@ void frmMainMenu::SetupSSTBrant()
     ++TabSetupCount;
 }
 
+std::string_view frmMainMenu::FormFor(std::string_view form)
+{
+    // The equation solver belongs to the general analysis, and stands in for it until it is built.
+    if (form == "frmStiff" && !Forms::IsKnown(form)) return "frmLinSolve";
+    return form;
+}
+
 void frmMainMenu::OpenModule(std::string_view form)
 {
-    if (!Forms::IsKnown(form)) return;
-    Forms::Show(form);
+    const std::string_view opened = FormFor(form);
+    if (!Forms::IsKnown(opened)) return;
+    Forms::Show(opened);
     Forms::Hide("frmMainMenu");
 }
 

@@ -71,6 +71,9 @@ class frmMainMenu : public screen::Form {
     void cmdBigBeams_Click();
     static void sysMainMenu_DisplayChanged();
 
+    /// The form that opens in the name of a module's form.
+    static std::string_view FormFor(std::string_view form);
+    [[nodiscard]] static bool IsBuilt(std::string_view form);
     void OpenModule(std::string_view form);
     void SetupSSTBrant();
     void TakeWorkArea();

@@ -36,11 +36,6 @@ constexpr int kOrder[] = {9, 7, 2, 8, 5, 4, 6, 10, 1, 12, 3};
 constexpr int kHelp = 11;
 constexpr int kExit = 0;
 
-bool IsBuilt(std::string_view form)
-{
-    return form.empty() || Forms::IsKnown(form);
-}
-
 } // namespace
 
 const frmMainMenu::BigWord frmMainMenu::kBigWords[] = {
@@ -88,6 +83,11 @@ const frmMainMenu::MenuRow frmMainMenu::kMenu[] = {
     {MenuRow::Kind::Separator, "mnuSep", ""},
     {MenuRow::Kind::Item, "mnuAbout", "&About", &frmMainMenu::mnuAbout_Click},
 };
+
+bool frmMainMenu::IsBuilt(std::string_view form)
+{
+    return form.empty() || Forms::IsKnown(FormFor(form));
+}
 
 void frmMainMenu::BuildMenu()
 {

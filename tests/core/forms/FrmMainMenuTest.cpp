@@ -84,6 +84,18 @@ class MainMenu : public FormTest {
     }
 };
 
+TEST_F(MainMenu, TheEquationSolverStandsInForTheGeneralAnalysis)
+{
+    RegisterStub("frmLinSolve");
+    Open("frmMainMenu");
+    EXPECT_TRUE(IsEnabled("mnuStiffness"));
+    EXPECT_TRUE(IsEnabled("cmdBigWord(10)"));
+    EXPECT_FALSE(IsEnabled("mnuColumns"));
+    Trigger("mnuStiffness");
+    EXPECT_TRUE(Forms::IsVisible("frmLinSolve"));
+    EXPECT_FALSE(Forms::IsVisible("frmMainMenu"));
+}
+
 TEST_F(MainMenu, HasItsCaptionAndTheMenuOfTheProgram)
 {
     EXPECT_EQ(OpenMenu().windowTitle(), "Forcelab  --  Strength of Materials Teaching Software");
