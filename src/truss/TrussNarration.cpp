@@ -99,6 +99,7 @@ class TrussExplanation {
     [[nodiscard]] std::string Names(const std::vector<int>& members) const
     {
         std::vector<std::string> names;
+        names.reserve(members.size());
         for (const int member : members) names.push_back(results_.MemberName[member]);
         return Joined(names);
     }
@@ -293,6 +294,7 @@ class TrussExplanation {
     {
         if (joints.empty()) return;
         std::vector<std::string> names;
+        names.reserve(joints.size());
         for (const int joint : joints) names.push_back(results_.JointName[joint]);
         text_.Heading("Joints with more than two unknowns");
         text_.Line(

@@ -8,8 +8,6 @@
 using namespace forcelab;
 using namespace forcelab::truss;
 using namespace forcelab::truss::test;
-using testing::ElementsAre;
-using testing::UnorderedElementsAre;
 
 namespace {
 
