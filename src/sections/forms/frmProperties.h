@@ -66,7 +66,7 @@ class frmProperties : public frmPropertiesLayout {
     void cboGrade_Click(int ListIndex);
     void CheckSteelGrade(int family);
     void ShowGrade(int family);
-    [[nodiscard]] screen::ComboBox& GradesShown(int family) const;
+    [[nodiscard]] screen::ComboBox* GradesShown(int family) const;
     [[nodiscard]] int FamilyShown() const;
     [[nodiscard]] const SteelShape* SteelShapeChosen() const;
 

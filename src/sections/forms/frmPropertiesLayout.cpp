@@ -18,7 +18,6 @@ using screen::kGap;
 using screen::Label;
 using screen::OptionRow;
 using screen::Q;
-using screen::TextBox;
 
 namespace {
 

@@ -124,7 +124,7 @@ void frmProperties::SelectRememberedGrade(int family)
 {
     const QSignalBlocker steel(cboSteelGrade);
     const QSignalBlocker tubes(cboTubeGrade);
-    GradesShown(family).SetListIndex(SteelGradeChosen[family] - 1);
+    GradesShown(family)->SetListIndex(SteelGradeChosen[family] - 1);
     ShowGrade(family);
 }
 
@@ -174,9 +174,9 @@ void frmProperties::CheckSteelGrade(int family)
                                       : std::string());
 }
 
-screen::ComboBox& frmProperties::GradesShown(int family) const
+screen::ComboBox* frmProperties::GradesShown(int family) const
 {
-    return IsTubular(family) ? *cboTubeGrade : *cboSteelGrade;
+    return IsTubular(family) ? cboTubeGrade : cboSteelGrade;
 }
 
 int frmProperties::FamilyShown() const

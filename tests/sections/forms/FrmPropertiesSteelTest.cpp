@@ -10,7 +10,6 @@
 namespace forcelab::sections {
 namespace {
 
-using screen::Forms;
 using test::Local;
 using test::Near;
 
