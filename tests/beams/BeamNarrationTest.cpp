@@ -1,11 +1,7 @@
 #include "beams/BeamNarration.h"
 
 #include "BeamBuilders.h"
-#include "support/Arithmetic.h"
-
-#include <algorithm>
-#include <cctype>
-#include <sstream>
+#include "support/NarrationProof.h"
 
 using namespace forcelab;
 using namespace forcelab::test;
@@ -15,43 +11,6 @@ using testing::HasSubstr;
 using testing::Not;
 
 namespace {
-
-/// True for a term that holds numbers but no names.
-bool IsNumeric(const std::string& term)
-{
-    return std::none_of(term.begin(), term.end(),
-                        [](unsigned char c) { return c < 128 && std::isalpha(c) != 0; });
-}
-
-/// Recomputes every expression of one line; returns how many it proved.
-int ProveLine(const std::string& line)
-{
-    const auto terms = forcelab::test::Terms(line);
-    const auto result = ReadResult(terms.back());
-    int proved = 0;
-    for (std::size_t i = 1; i + 1 < terms.size(); ++i) {
-        const auto value = PrintedArithmetic::Compute(terms[i]);
-        EXPECT_TRUE(value || !IsNumeric(terms[i])) << "cannot be read: " << terms[i];
-        EXPECT_TRUE(result) << "no result: " << line;
-        if (!value || !result) continue;
-        // What doubles cannot tell apart counts as the same.
-        const double allowed = result->HalfUnit * (1 + 1e-6) + 1e-14 * std::abs(*value);
-        EXPECT_LE(std::abs(*value - result->Value), allowed) << line;
-        ++proved;
-    }
-    return proved;
-}
-
-int ProveText(const std::string& text)
-{
-    std::istringstream lines(text);
-    int proved = 0;
-    for (std::string line; std::getline(lines, line);) {
-        if (!line.empty() && line.back() == '\r') line.pop_back();
-        proved += ProveLine(line);
-    }
-    return proved;
-}
 
 /// A beam in units of the diagrams that differ from those of its entry.
 struct Told {

@@ -1,13 +1,9 @@
 #include "transform/MohrNarration.h"
 
 #include "MohrStates.h"
-#include "support/Arithmetic.h"
+#include "support/NarrationProof.h"
 #include "transform/MohrTexts.h"
 #include "transform/Rosette.h"
-
-#include <algorithm>
-#include <cctype>
-#include <sstream>
 
 using namespace forcelab;
 using namespace forcelab::test;
@@ -16,43 +12,6 @@ using namespace forcelab::transform::test;
 using testing::HasSubstr;
 
 namespace {
-
-/// True for a term that holds numbers and functions but no names.
-bool IsNumeric(std::string term)
-{
-    for (const std::string word : {"sin", "cos", "atan", "E-", "E+"})
-        for (std::size_t at = 0; (at = term.find(word)) != std::string::npos;)
-            term.erase(at, word.size());
-    const auto isLetter = [](unsigned char c) { return c < 128 && std::isalpha(c) != 0; };
-    return std::none_of(term.begin(), term.end(), isLetter);
-}
-
-/// Recomputes every expression of one line; returns how many it proved.
-int ProveLine(const std::string& line)
-{
-    const auto terms = Terms(line);
-    const auto result = ReadResult(terms.back());
-    int proved = 0;
-    for (std::size_t i = 1; i + 1 < terms.size(); ++i) {
-        const auto value = PrintedArithmetic::Compute(terms[i]);
-        EXPECT_TRUE(value || !IsNumeric(terms[i])) << "cannot be read: " << terms[i];
-        if (!value || !result) continue;
-        EXPECT_LE(std::abs(*value - result->Value), result->HalfUnit * (1 + 1e-6)) << line;
-        ++proved;
-    }
-    return proved;
-}
-
-int ProveText(const std::string& text)
-{
-    std::istringstream lines(text);
-    int proved = 0;
-    for (std::string line; std::getline(lines, line);) {
-        if (!line.empty() && line.back() == '\r') line.pop_back();
-        proved += ProveLine(line);
-    }
-    return proved;
-}
 
 class Explanations : public testing::TestWithParam<MohrMode> {};
 

@@ -1,12 +1,10 @@
 #include "truss/TrussNarration.h"
 
 #include "TrussCases.h"
-#include "support/Arithmetic.h"
+#include "support/NarrationProof.h"
 #include "truss/JointWalk.h"
 
 #include <algorithm>
-#include <cctype>
-#include <sstream>
 
 using namespace forcelab;
 using namespace forcelab::test;
@@ -17,40 +15,6 @@ using testing::HasSubstr;
 using testing::Not;
 
 namespace {
-
-bool HasLetters(const std::string& term)
-{
-    return std::any_of(term.begin(), term.end(),
-                       [](unsigned char c) { return c < 128 && std::isalpha(c) != 0; });
-}
-
-/// Recomputes every expression of one line from its print; returns how many it proved.
-int ProveLine(const std::string& line)
-{
-    const auto terms = Terms(line);
-    const auto result = ReadResult(terms.back());
-    int proved = 0;
-    for (std::size_t i = 1; i + 1 < terms.size(); ++i) {
-        const auto value = PrintedArithmetic::Compute(terms[i]);
-        EXPECT_TRUE(value || HasLetters(terms[i])) << "cannot be read: " << terms[i];
-        EXPECT_TRUE(result) << line;
-        if (!value || !result) continue;
-        EXPECT_LE(std::abs(*value - result->Value), result->HalfUnit * (1 + 1e-6)) << line;
-        ++proved;
-    }
-    return proved;
-}
-
-int ProveText(const std::string& text)
-{
-    std::istringstream lines(text);
-    int proved = 0;
-    for (std::string line; std::getline(lines, line);) {
-        if (!line.empty() && line.back() == '\r') line.pop_back();
-        proved += ProveLine(line);
-    }
-    return proved;
-}
 
 std::string Explain(TrussModel model)
 {
