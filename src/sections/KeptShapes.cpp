@@ -8,7 +8,6 @@ namespace forcelab::sections {
 
 namespace {
 
-constexpr std::string_view kDimensionMask = "####0.0#####";
 constexpr std::array<int, 4> kQuadrantColours{5, 13, 1, 2};
 
 // A number as the program writes it; any other text stays as it was typed.

@@ -11,7 +11,6 @@ namespace forcelab::sections {
 
 namespace {
 
-constexpr std::string_view kDimensionMask = "####0.0#####";
 constexpr std::string_view kDiameterMask = "####0.0###"; // of circles and the outside of pipes
 constexpr int kGapElement = 2; // the gap of double shapes has the first box of the third element
 
@@ -124,7 +123,7 @@ std::optional<Refusal> CheckEntry(CrossSection& section, SectionEntry& entry)
     return std::nullopt;
 }
 
-std::optional<Refusal> ComputeShape(CrossSection& section, SectionEntry& entry)
+void ComputeShape(CrossSection& section, SectionEntry& entry)
 {
     CrossSection next = section;
     next.CompositeSection = entry.Composite;
@@ -132,7 +131,6 @@ std::optional<Refusal> ComputeShape(CrossSection& section, SectionEntry& entry)
     ComputeSection(next, entry);
     next.SectionComputed = true;
     section = next;
-    return std::nullopt;
 }
 
 void ConvertLengthUnit(const CrossSection& section, SectionEntry& entry)

@@ -7,8 +7,12 @@
 #include <array>
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace forcelab::sections {
+
+/// How a dimension is written back into its box.
+inline constexpr std::string_view kDimensionMask = "####0.0#####";
 
 /// What the boxes and options of frmProperties say.
 struct SectionEntry {
@@ -31,7 +35,7 @@ std::optional<Refusal> CheckEntry(CrossSection& section, SectionEntry& entry);
 
 /// The work of Compute after CheckEntry: lays out the elements and computes. Refuses nothing more;
 /// throws ArithmeticFault, and leaves `section` as it was, where a number is not finite.
-std::optional<Refusal> ComputeShape(CrossSection& section, SectionEntry& entry);
+void ComputeShape(CrossSection& section, SectionEntry& entry);
 
 /// The boxes and the option with the other length unit; shape 27 converts its properties by their
 /// powers.

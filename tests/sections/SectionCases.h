@@ -23,7 +23,8 @@ struct Worked {
     std::optional<Refusal> Compute()
     {
         if (auto refusal = Check()) return refusal;
-        return ComputeShape(Section, Entry);
+        ComputeShape(Section, Entry);
+        return std::nullopt;
     }
     void Turn(int quarters) { RotateElements(Section, quarters * kPi / 2); }
     [[nodiscard]] double At(Row row, Column column) const { return Section.Record(row, column); }

@@ -155,10 +155,8 @@ void frmProperties::Compute()
     if (shape_ == kNoShape) return;
     SectionEntry entry = ReadEntry();
     CrossSection section = CurrentSection;
-    auto refusal = CheckEntry(section, entry);
-    if (!refusal) refusal = ComputeShape(section, entry);
-    if (refusal) return Show(*refusal);
-    section.SectionComputed = true;
+    if (const auto refusal = CheckEntry(section, entry)) return Show(*refusal);
+    ComputeShape(section, entry);
     CurrentSection = section;
     CurrentEntry = entry;
     WriteBoxes(entry);
