@@ -129,11 +129,15 @@ TEST(HelpPages, HaveNoLooseEnds)
 {
     const QDir pages(QStringLiteral(":/help"));
     const QRegularExpression link(QStringLiteral(R"(\]\(([^)#]+\.(?:md|svg))\))"));
+    const QRegularExpression brokenWords(QStringLiteral(R"(!\[[^\]]*\n)"));
     int links = 0;
     for (const QString& name : pages.entryList({QStringLiteral("*.md")})) {
         QFile file(pages.filePath(name));
         ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-        auto found = link.globalMatch(QString::fromUtf8(file.readAll()));
+        const QString text = QString::fromUtf8(file.readAll());
+        // The reader of Markdown would show a picture once for each line of its words.
+        EXPECT_FALSE(text.contains(brokenWords)) << name.toStdString();
+        auto found = link.globalMatch(text);
         while (found.hasNext()) {
             const QString target = pages.filePath(found.next().captured(1));
             ++links;
