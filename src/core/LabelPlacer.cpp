@@ -54,6 +54,14 @@ void LabelPlacer::KeepOffCircle(PicturePoint centre, double radius)
     for (int k = 0; k < kCircleSegments; ++k) lines_.push_back({point(k), point(k + 1)});
 }
 
+void LabelPlacer::Reserve(PicturePoint corner, PicturePoint opposite)
+{
+    const PicturePoint a = pic_.ToPixels(corner);
+    const PicturePoint b = pic_.ToPixels(opposite);
+    taken_.push_back(
+        {std::min(a.X, b.X), std::min(a.Y, b.Y), std::max(a.X, b.X), std::max(a.Y, b.Y)});
+}
+
 LabelPlacer::Size LabelPlacer::SizeOf(const Label& label)
 {
     const double height = std::abs(pic_.ScaleY(pic_.TextHeight("X")));

@@ -32,7 +32,8 @@ class LabelPlacer {
     explicit LabelPlacer(Picture& pic) : pic_(pic) {}
 
     void KeepOffLine(PicturePoint from, PicturePoint to);
-    void KeepOffCircle(PicturePoint centre, double radius); ///< radius in units of x
+    void KeepOffCircle(PicturePoint centre, double radius);   ///< radius in units of x
+    void Reserve(PicturePoint corner, PicturePoint opposite); ///< no label may touch this box
     /// Prints the label; False where it is left out. Keeps font, size and colour of the picture.
     bool Place(const LabelWish& wish);
 

@@ -57,6 +57,16 @@ TEST(LabelPlacer, MovesOffALine)
     EXPECT_TRUE(box.Y2 < 100 || box.Y1 > 100);
 }
 
+TEST(LabelPlacer, StaysOutOfAReservedBox)
+{
+    RecordingPicture pic(200, 200);
+    LabelPlacer placer(pic);
+    placer.Reserve({90, 140}, {200, 60}); // all that lies right of the point
+    ASSERT_TRUE(placer.Place(Wish({100, 100}, "label", 0)));
+    const auto box = pic.TextBoxes().front();
+    EXPECT_TRUE(box.X2 < 90 || box.Y2 < 60 || box.Y1 > 140);
+}
+
 TEST(LabelPlacer, MovesOffACircle)
 {
     RecordingPicture pic(400, 400);
