@@ -68,6 +68,13 @@ TEST_F(LinSolve, SolvesThreeEquations)
     EXPECT_THAT(Column(1), ElementsAre("2", "-3", "-2"));
 }
 
+TEST_F(LinSolve, SolvesTheJointOfTheHelpPage)
+{
+    TypeEquations({{"1", "0.70711", "0"}, {"0", "0.70711", "-6.667"}});
+    Click("cmdStiffness");
+    EXPECT_THAT(Column(3), testing::ElementsAreArray(Solved({"6.66700", "-9.42852"})));
+}
+
 TEST_F(LinSolve, ComputeTakesTheNumberThatIsStillBeingTyped)
 {
     SetCount(1);
