@@ -3,15 +3,14 @@
 #include "core/RecordingPicture.h"
 #include "support/Near.h"
 
+#include <algorithm>
+
 namespace forcelab::general {
 namespace {
 
 using test::Local;
 using testing::Contains;
-using testing::Each;
 using testing::ElementsAre;
-using testing::MatchesRegex;
-using testing::Not;
 
 constexpr double kWide = 2000;
 constexpr double kHigh = 900;

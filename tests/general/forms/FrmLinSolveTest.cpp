@@ -1,6 +1,6 @@
 #include "LinSolveFormTest.h"
 
-#include "core/MainModule.h"
+#include "core/NumericText.h"
 
 #include <QPdfWriter>
 #include <QRegularExpression>
@@ -11,7 +11,6 @@ namespace {
 using test::Local;
 using testing::Each;
 using testing::ElementsAre;
-using testing::HasSubstr;
 
 const std::vector<std::vector<std::string>> kThree{
     {"2", "1", "-1", "8"}, {"-3", "-1", "2", "-11"}, {"-2", "1", "2", "-3"}};
