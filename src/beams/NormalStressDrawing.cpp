@@ -44,7 +44,8 @@ class NormalPainter {
         DrawArrows();
         DrawLines();
         DrawLevels();
-        for (const StressPiece& piece : pieces_) LabelEnds(piece);
+        for (const bool outer : {true, false}) // the extremes choose their places first
+            for (const StressPiece& piece : pieces_) LabelEnds(piece, outer);
     }
 
   private:
@@ -98,14 +99,15 @@ class NormalPainter {
         sheet_.PointLevel({X(atPoint_), details_.YInches()});
     }
 
-    void LabelEnds(const StressPiece& piece)
+    void LabelEnds(const StressPiece& piece, bool outer)
     {
         const SectionBounds& b = sheet_.Bounds();
         const std::string material =
             !section_.CompositeSection ? "" : (piece.Material == 1 ? " (B)" : " (A)");
-        const auto label = [&](double stress, double y, double angle, bool needed) {
+        const auto label = [&](double stress, double y, double angle, bool isOuter) {
+            if (isOuter != outer) return;
             sheet_.Text({X(stress), y}, WithUnit(stress) + material,
-                        stress < 0 ? kPi - angle : angle, InkOfStress(stress), needed);
+                        stress < 0 ? kPi - angle : angle, InkOfStress(stress), outer);
         };
         label(piece.AtTop, piece.Top, kPi / 4, piece.Top == b.SectionTop);
         label(piece.AtBottom, piece.Bottom, -kPi / 4, piece.Bottom == b.SectionBottom);

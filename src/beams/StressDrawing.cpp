@@ -130,13 +130,10 @@ class SectionPainter {
             Corners e = section_.ElementCornersInches[k];
             e.Bottom = std::max(e.Bottom, details_.YInches());
             if (!section_.Shown[k] || e.Bottom >= e.Top) continue;
-            if (IsHole(section_, k)) {
-                sheet_.Area(CornersOf(e), Rgb(255, 255, 255));
-                continue;
-            }
+            const bool hole = IsHole(section_, k);
             pic.ForeColor = kHatch;
-            pic.FillColor = kHatch;
-            pic.FillStyle = FillPattern::UpwardDiagonal;
+            pic.FillColor = hole ? Rgb(255, 255, 255) : kHatch;
+            pic.FillStyle = hole ? FillPattern::Solid : FillPattern::UpwardDiagonal;
             pic.Polygon(CornersOf(e));
             pic.FillStyle = FillPattern::Transparent;
         }

@@ -11,9 +11,10 @@ namespace {
 
 // Pixels, and points of the fonts.
 constexpr double kPad = 8;
-constexpr double kBlockGap = 18;  // between two blocks side by side
-constexpr double kAboveTitle = 4; // and below it
-constexpr double kRoom = 16;      // for labels above and below the section
+constexpr double kBlockGap = 18;    // between two blocks side by side
+constexpr double kAboveTitle = 4;   // and below it
+constexpr double kRoom = 21;        // for labels above and below the section
+constexpr double kMostBeside = 0.4; // of the height
 constexpr double kLeastDrawing = 30;
 constexpr double kSide = 5;       // beside a level across the sheet
 constexpr double kArrowStep = 13; // between two stress arrows, at least
@@ -33,7 +34,9 @@ StressSheet::StressSheet(Picture& pic, const SectionBounds& inches, const std::s
 {
     Prepare();
     const Layout layout = LayOut(blocks);
-    const double below = std::max(layout.Height, LayOut(beside).Height);
+    const double other = LayOut(beside).Height;
+    const bool isHigh = other > kMostBeside * pic.HeightPixels(); // too high to follow
+    const double below = isHigh ? layout.Height : std::max(layout.Height, other);
     blocksTop_ = pic.HeightPixels() - below - kPad;
     const double top = LinePixels() + 2 * kAboveTitle + kRoom;
     const double room = std::max(blocksTop_ - kRoom - top, kLeastDrawing);

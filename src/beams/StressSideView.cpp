@@ -135,10 +135,12 @@ class SidePainter {
         sheet_.Outline(corners, {InkOfStress(sense)});
     }
 
+    /// A single panel is named by the formula below it.
     void MarkPanel(const Panel& panel, double face)
     {
+        if (panels_.size() == 1) return;
         const SectionBounds& b = sheet_.Bounds();
-        const double name = sheet_.BlocksTop() + sheet_.Inches(sheet_.LinePixels() / 2);
+        const double name = sheet_.BlocksTop() - sheet_.Inches(sheet_.LinePixels() / 2);
         sheet_.Mark({face + panel_ * kNameShare, name}, panel.Name);
         if (!panel.Before.empty())
             sheet_.Mark({face - kPanelGap / 2, (b.SectionBottom + b.SectionTop) / 2}, panel.Before);

@@ -10,7 +10,6 @@ using namespace forcelab::beams::test;
 using namespace forcelab::sections;
 using forcelab::test::Local;
 using forcelab::test::Near;
-using testing::Each;
 using testing::ElementsAre;
 
 namespace {

@@ -278,8 +278,8 @@ TEST(LargestShear, LiesWhereTheWidthIsSmall)
         LargestShearOf(Computed(kSpecified, {3, 4, 3, 5, 100, 60, 30}).Section, {}).has_value());
 }
 
-/// A cross lies with its long flanges at the middle: the narrow parts at their ends are stressed
-/// most. The I-shape on its side, with a thick web: flanges 2 x 0.5 wide, web 9 x 0.375 between.
+/// An I-shape on its side: flanges 2 x 0.5 wide, and the web 9 x 0.375 between them at the middle,
+/// where it makes the section wide. The largest stress is at its edge.
 TEST(LargestShear, BesideTheNeutralAxisOfALyingShape)
 {
     const Worked lying = Computed(kIShape, {6, 0.5, 9, 0.375}, 1);

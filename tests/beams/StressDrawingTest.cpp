@@ -19,7 +19,8 @@ namespace {
 
 using Kind = RecordedOperation::Kind;
 
-StressDetails Details(const Worked& worked, DetailsEntry entry = TeeEntry(), int view = kShearView)
+StressDetails Details(const Worked& worked, const DetailsEntry& entry = TeeEntry(),
+                      int view = kShearView)
 {
     StressDetails details = ReadDetails(worked.Section, entry);
     details.KeyStressView = view;
