@@ -4,6 +4,7 @@
 #include "core/forms/frmAbout.h"
 #include "core/forms/frmMainMenu.h"
 #include "core/screen/Forms.h"
+#include "general/forms/frmLinSolve.h"
 #include "sections/SectionRecord.h"
 #include "sections/forms/frmCrossSection.h"
 #include "sections/forms/frmProperties.h"
@@ -30,6 +31,7 @@ void RegisterForms()
     Register<transform::frmFailure>("frmFailure");
     Register<sections::frmProperties>("frmProperties");
     Register<sections::frmCrossSection>("frmCrossSection");
+    Register<general::frmLinSolve>("frmLinSolve");
     MainModule::ForgetSection = sections::ForgetSection;
 }
 

@@ -16,7 +16,7 @@ struct Step {
         Text,  ///< types into a box, or picks a line of a list
         Click, ///< clicks a button, option or check box
         Menu,
-        Key, ///< one letter
+        Key, ///< types letter by letter; "\t" Tab, "\n" Enter, "^" and "v" the arrows
     } What;
     std::string Name; ///< of the control
     std::string Value;
@@ -26,7 +26,7 @@ using Steps = std::vector<Step>;
 Step Text(const std::string& name, const std::string& value);
 Step Click(const std::string& name);
 Step Menu(const std::string& name);
-Step Key(const std::string& name, const std::string& letter);
+Step Key(const std::string& name, const std::string& letters);
 Steps operator+(Steps first, const Steps& second);
 
 struct Scene {
@@ -47,6 +47,7 @@ std::vector<Scene> MohrScenes();
 std::vector<Scene> FailureScenes();
 std::vector<Scene> SectionScenes();
 std::vector<Scene> ReportScenes();
+std::vector<Scene> EquationScenes();
 
 /// Tells what went wrong; the gallery then ends with a failure.
 void Complain(const std::string& what);

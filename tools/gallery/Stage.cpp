@@ -79,9 +79,9 @@ Step Menu(const std::string& name)
     return {Step::Kind::Menu, name, ""};
 }
 
-Step Key(const std::string& name, const std::string& letter)
+Step Key(const std::string& name, const std::string& letters)
 {
-    return {Step::Kind::Key, name, letter};
+    return {Step::Kind::Key, name, letters};
 }
 
 Steps operator+(Steps first, const Steps& second)
@@ -105,11 +105,34 @@ void Pick(QListWidget& list, const std::string& line)
     list.setCurrentItem(found.front());
 }
 
-void PressKey(QWidget& widget, const std::string& letter)
+int KeyOf(char letter)
 {
-    const int key = Qt::Key_A + (letter.front() - 'A');
-    QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, Q(letter));
-    QCoreApplication::sendEvent(&widget, &press);
+    switch (letter) {
+    case '\t':
+        return Qt::Key_Tab;
+    case '\n':
+        return Qt::Key_Return;
+    case '^':
+        return Qt::Key_Up;
+    case 'v':
+        return Qt::Key_Down;
+    default:
+        return QChar(QLatin1Char(letter)).toUpper().unicode();
+    }
+}
+
+// Types letter by letter into whatever takes the keys.
+void TypeKeys(QWidget& widget, const std::string& letters)
+{
+    widget.setFocus();
+    for (const char letter : letters) {
+        QWidget* focused = QApplication::focusWidget();
+        const bool arrow = letter == '^' || letter == 'v';
+        const QString text = arrow ? QString() : QString(QLatin1Char(letter));
+        QKeyEvent press(QEvent::KeyPress, KeyOf(letter), Qt::NoModifier, text);
+        QCoreApplication::sendEvent(focused ? focused : &widget, &press);
+        QCoreApplication::processEvents();
+    }
 }
 
 void SetText(QWidget& widget, const std::string& text)
@@ -126,7 +149,7 @@ void Do(const Form& form, const Step& step)
     QWidget* widget = form.ControlNamed(step.Name);
     if (!widget) return Complain("no control " + step.Name);
     if (step.What == Step::Kind::Text) return SetText(*widget, step.Value);
-    if (step.What == Step::Kind::Key) return PressKey(*widget, step.Value);
+    if (step.What == Step::Kind::Key) return TypeKeys(*widget, step.Value);
     auto* button = qobject_cast<QAbstractButton*>(widget);
     if (!button || !button->isEnabled()) return Complain("cannot click " + step.Name);
     button->click();

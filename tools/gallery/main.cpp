@@ -46,8 +46,8 @@ int main(int argc, char** argv)
     forcelab::screen::ApplyStyle(*qApp);
     SetServices();
     forcelab::RegisterForms();
-    for (const auto& scenes :
-         {MenuScenes(), MohrScenes(), FailureScenes(), SectionScenes(), ReportScenes()}) {
+    for (const auto& scenes : {MenuScenes(), MohrScenes(), FailureScenes(), SectionScenes(),
+                               ReportScenes(), EquationScenes()}) {
         for (const Scene& scene : scenes) Draw(scene, folder);
     }
     DrawHelp(folder);
