@@ -178,6 +178,7 @@ void frmTruss::Instruct(std::string_view text)
     cmdGridMake->setText(cmdGridMake->text()); // brings its shortcut back
     if (begins) cmdGridMake->setShortcut({});
     lblInstruct->SetCaption(text);
+    motionTold_ = false;
 }
 
 // The model in editing, which ends every change of it.
@@ -187,6 +188,7 @@ void frmTruss::DrawModel()
     ResultsShown = false;
     cmdGridMake->setText(Q("&New Truss"));
     Explain({});
+    if (motionTold_) Instruct(InstructionText(TrussMode, ChangedBy::Define));
     if (const auto enabled = ComputeEnabled(CurrentTruss)) cmdSpacing(1).setEnabled(*enabled);
     picTruss->Refresh();
 }

@@ -85,7 +85,8 @@ class frmTruss : public frmTrussLayout {
     GridKeys keys_;
     TrussResults results_;
     std::optional<Mechanism> motion_;
-    int tick_ = 0; ///< of the motion
+    int tick_ = 0;            ///< of the motion
+    bool motionTold_ = false; ///< lblInstruct tells of a motion
 
     QTimer* timMotion = Make<QTimer>("timMotion");
     QAction* mnuTrussStress = nullptr;

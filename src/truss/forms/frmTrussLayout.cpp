@@ -16,7 +16,7 @@ namespace {
 
 constexpr int kColumnWidth = 256; // pixels
 constexpr int kLeastExplanation = 260;
-constexpr double kExplanationShare = 0.34; // of the window beside the column
+constexpr double kExplanationShare = 0.32; // of the window beside the column
 constexpr int kListLines = 26;
 
 } // namespace

@@ -87,9 +87,8 @@ void frmTruss::StartMotion(const Mechanism& motion)
 {
     motion_ = motion;
     tick_ = 0;
-    const std::string words = ExplainMotion(motion);
-    Instruct(words);
-    Explain(words);
+    Instruct(ExplainMotion(motion));
+    motionTold_ = true;
     QCoreApplication::instance()->installEventFilter(this);
     timMotion->start(kTickTime);
     picTruss->Refresh();
@@ -104,14 +103,13 @@ void frmTruss::timMotion_Timer()
     picTruss->Refresh();
 }
 
-// The explanation of the motion stays until the truss is changed.
+// What the motion means stays to be read until the truss is drawn on.
 bool frmTruss::StopMotion()
 {
     if (!motion_) return false;
     timMotion->stop();
     motion_.reset();
     QCoreApplication::instance()->removeEventFilter(this);
-    Instruct(InstructionText(TrussMode, ChangedBy::Define));
     picTruss->Refresh();
     return true;
 }

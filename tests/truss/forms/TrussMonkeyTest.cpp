@@ -29,8 +29,8 @@ class TrussMonkey : public TrussFormTest {
                 "0", "5", "1e+400", "-3", "", "abc", Local("2.5"), "1e+30", "12"}[Pick(9)];
             const std::string ok = Pick(2) == 0 ? "(0)" : "(1)";
             if (form == std::string("frmDefGrid")) {
-                Find<QScrollBar>("vsbSpaces(0)").setValue(Pick(8));
-                Find<QScrollBar>("vsbSpaces(1)").setValue(Pick(8));
+                Find<QScrollBar>("vsbSpaces(0)").setValue(Pick(5));
+                Find<QScrollBar>("vsbSpaces(1)").setValue(Pick(5));
                 Type("txtSpacing(" + std::to_string(Pick(2)) + ")", typed);
                 Click("cmdDefGrid" + ok);
             } else if (form == std::string("frmTrussLoad")) {
@@ -108,10 +108,10 @@ TEST_F(TrussMonkey, LeavesAValidModel)
     std::printf("seed %u (FORCELAB_SEED)\n", seed);
     random_.seed(seed);
     Messages->AcceptAny = true;
+    LayGrid(3, 3);
     QTimer answering;
     QObject::connect(&answering, &QTimer::timeout, [this] { AnswerModalForms(); });
     answering.start(0);
-    LayGrid(3, 3);
     for (int step = 0; step < kGestures; ++step) {
         if (!screen::Forms::IsVisible("frmTruss")) Open("frmTruss");
         Use("frmTruss");
