@@ -2,6 +2,7 @@
 
 #include "beams/BeamLabels.h"
 #include "beams/LoadFactors.h"
+#include "core/ArithmeticFault.h"
 #include "core/MainModule.h"
 #include "core/NumericText.h"
 #include "core/Units.h"
@@ -188,6 +189,15 @@ void StartLoads(BeamRecord& beam)
     beam.LoadCount = 0;
     beam.FactoredLoads = false;
     MakeLabels(beam);
+}
+
+void RequireFinite(const BeamRecord& beam)
+{
+    for (const double length : {beam.BeamLength, beam.SupportA, beam.SupportB}) Finite(length);
+    for (int row = 1; row <= beam.LoadCount; ++row) {
+        for (const double x : beam.LoadX[row]) Finite(x);
+        for (const double magnitude : beam.LoadMagnitude[row]) Finite(magnitude);
+    }
 }
 
 } // namespace forcelab::beams

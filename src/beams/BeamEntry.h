@@ -85,4 +85,7 @@ LoadText ShowBeamLoad(const BeamRecord& beam);
 /// What Form_Load does to the record: no loads, no factors. The rows remain for redo.
 void StartLoads(BeamRecord& beam);
 
+/// Throws ArithmeticFault where the beam or a load was entered too large for a number.
+void RequireFinite(const BeamRecord& beam);
+
 } // namespace forcelab::beams
