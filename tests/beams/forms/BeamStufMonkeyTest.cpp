@@ -50,6 +50,8 @@ class BeamMonkey : public BeamStufFormTest {
             "4", "3", "5",  "8", "6.5",  "9",   "100", "1e+400", "1e+307", "9e+300", "-",  "6"};
         box->SetFocus();
         box->selectAll();
+        if (box->objectName() == QLatin1String("txtBeamLength") && Pick(4) > 0)
+            return QTest::keyClicks(box, QStringLiteral("1000")); // room for loads
         QTest::keyClicks(box, screen::Q(kTexts[std::size_t(Pick(kTexts.size()))]));
         if (Pick(3) == 0) QTest::keyClick(box, Qt::Key_Return);
     }
@@ -69,6 +71,7 @@ class BeamMonkey : public BeamStufFormTest {
             "mnuEnterLoads(4)", "mnuRedoLoadEntry",    "mnuNew",           "mnuBack",
             "mnuMohr",          "mnuSectionProperties"};
         const std::string& name = kItems[std::size_t(Pick(kItems.size()))];
+        if (name == "mnuNew" && Pick(4) > 0) return; // rarely: it takes all loads away
         const bool inLoads = name.starts_with("mnuUndo") || name.starts_with("mnuRedo") ||
                              name.starts_with("mnuEnter") || name.starts_with("mnuL");
         if (inLoads && !IsEnabled("mnuLoadsMoments")) return;
@@ -129,19 +132,20 @@ class BeamMonkey : public BeamStufFormTest {
 TEST_F(BeamMonkey, LeavesASoundRecord)
 {
     Messages->AcceptAny = true;
-    int mostLoads = 0;
+    int gained = 0; // times that a load came
     for (int step = 0; step < kSteps; ++step) {
         if (!screen::Forms::IsVisible("frmBeamStuf") || Pick(20) == 0) Open("frmBeamStuf");
         Use("frmBeamStuf");
+        const int before = CurrentBeam.LoadCount;
         Step();
         QCoreApplication::processEvents();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         Use("frmBeamStuf");
         ExpectKnownBoxes(step);
         ASSERT_NO_FATAL_FAILURE(ExpectASoundRecord(step));
-        mostLoads = std::max(mostLoads, CurrentBeam.LoadCount);
+        gained += CurrentBeam.LoadCount > before;
     }
-    EXPECT_GT(mostLoads, 2); // it did come as far as loads
+    EXPECT_GE(gained, 3);
 }
 
 } // namespace

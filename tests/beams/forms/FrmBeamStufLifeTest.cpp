@@ -194,6 +194,20 @@ TEST_F(BeamLife, PicturesAnswerToTheKeyboard)
     EXPECT_FALSE(IsChosen("cmdBeamType(2)"));
 }
 
+TEST_F(BeamLife, EveryPictureIsAnother)
+{
+    Open("frmBeamStuf");
+    std::vector<QImage> pictures;
+    for (const std::string name :
+         {"cmdBeamType(0)", "cmdBeamType(1)", "cmdBeamType(2)", "optLoadType(0)", "optLoadType(1)",
+          "optLoadType(2)", "optLoadType(3)", "optLoadType(4)", "optLoadType(5)"}) {
+        const QImage picture = Find<PictureButton>(name).icon().pixmap(85, 51).toImage();
+        ASSERT_FALSE(picture.isNull()) << name;
+        for (const QImage& other : pictures) EXPECT_NE(picture, other) << name;
+        pictures.push_back(picture);
+    }
+}
+
 TEST_F(BeamLife, FitsTheSmallestScreen)
 {
     Screen->Area = {0, 0, 1024, 700};

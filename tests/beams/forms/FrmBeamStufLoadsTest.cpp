@@ -86,6 +86,23 @@ TEST_F(BeamLoads, SignsAndLettersInTheBoxes)
     EXPECT_GT(CurrentBeam.LoadX[4][1], CurrentBeam.LoadX[4][2]);
 }
 
+TEST_F(BeamLoads, TooLargeMagnitudeLeavesTheLoads)
+{
+    EnterPoint(kPointDown, "4", "5");
+    Click("optLoadType(1)");
+    Choose("optForceUnits(1)");
+    Click("cmdCancelLoad");
+    ExpectBox(kStop, "Forcelab",
+              "A number in this calculation is too large. What is shown stays as it was; please "
+              "check the input.");
+    EnterPoint(kPointDown, "4", "9e+307");
+    EXPECT_THAT(LoadLines(), ElementsAre(Local("1P = 5. lbs (down)")));
+    EXPECT_EQ(CurrentBeam.LoadCount, 1);
+    EXPECT_TRUE(IsVisible("fraConcentrated")); // the number can be mended
+    Click("cmdCancelLoad");
+    EXPECT_TRUE(MenusAreOn());
+}
+
 TEST_F(BeamLoads, FortyFirstIsRefused)
 {
     for (int load = 1; load <= kMaxLoads; ++load)
