@@ -10,6 +10,10 @@
 #include "sections/forms/frmProperties.h"
 #include "transform/forms/frmFailure.h"
 #include "transform/forms/frmMohr.h"
+#include "truss/forms/frmDefGrid.h"
+#include "truss/forms/frmTruss.h"
+#include "truss/forms/frmTrussLoad.h"
+#include "truss/forms/frmTrussStress.h"
 
 namespace forcelab {
 
@@ -32,6 +36,10 @@ void RegisterForms()
     Register<sections::frmProperties>("frmProperties");
     Register<sections::frmCrossSection>("frmCrossSection");
     Register<general::frmLinSolve>("frmLinSolve");
+    Register<truss::frmTruss>("frmTruss");
+    Register<truss::frmDefGrid>("frmDefGrid");
+    Register<truss::frmTrussLoad>("frmTrussLoad");
+    Register<truss::frmTrussStress>("frmTrussStress");
     MainModule::ForgetSection = sections::ForgetSection;
 }
 
