@@ -1,6 +1,7 @@
 #include "beams/CurveDiagram.h"
 
 #include "BeamBuilders.h"
+#include "DrawnLabels.h"
 #include "beams/DiagramFrame.h"
 #include "beams/LoadDiagram.h"
 #include "core/ArithmeticFault.h"
@@ -21,14 +22,6 @@ namespace {
 
 constexpr std::array<CurveKind, 4> kKinds{CurveKind::Shear, CurveKind::Moment, CurveKind::Slope,
                                           CurveKind::Deflection};
-
-DiagramUnits UnitsOf(const BeamRecord& beam, int force)
-{
-    DiagramUnits units;
-    units.Length = beam.BeamLengthUnit;
-    units.Force = units.Moment = force;
-    return units;
-}
 
 bool IsSlopeView(CurveKind kind)
 {
@@ -60,17 +53,6 @@ std::vector<RecordedOperation> CurvesOf(const RecordingPicture& pic)
         return op.Closed || op.Points.size() != kCurvePoints;
     });
     return paths;
-}
-
-std::string Overlap(const RecordingPicture& pic)
-{
-    const auto boxes = pic.TextBoxes();
-    for (std::size_t i = 0; i < boxes.size(); ++i)
-        for (std::size_t k = 0; k < i; ++k)
-            if (boxes[i].X1 < boxes[k].X2 - 0.01 && boxes[k].X1 < boxes[i].X2 - 0.01 &&
-                boxes[i].Y1 < boxes[k].Y2 - 0.01 && boxes[k].Y1 < boxes[i].Y2 - 0.01)
-                return boxes[i].Text + " covers " + boxes[k].Text;
-    return "";
 }
 
 TEST(DrawShearDiagram, LabelsValuesAndPositions)
@@ -252,6 +234,27 @@ TEST(DrawCurveDiagram, WithoutABeamNothingIsDrawn)
     EXPECT_THAT(pic.Operations(), IsEmpty());
 }
 
+TEST(DrawCurveDiagram, ATinySheetStillHasItsCurve)
+{
+    const BeamRecord beam = RandomBeam(7, kMaxLoads);
+    for (const double width : {30.0, 120.0, 300.0}) {
+        RecordingPicture pic(width, width / 3);
+        Draw(pic, CurveKind::Moment, beam, UnitsOf(beam, kKn));
+        EXPECT_EQ(CurvesOf(pic).size(), 1u);
+    }
+}
+
+TEST(DrawCurveDiagram, WhatIsRoundedOffIsShownAsZero)
+{
+    // The constants of this beam leave some 1e-5 of EI times deflection at its supports.
+    const BeamRecord beam = RandomBeam(26, 26);
+    RecordingPicture pic(800, 240);
+    Draw(pic, CurveKind::Deflection, beam, UnitsOf(beam, kKip));
+    EXPECT_THAT(pic.Texts(), Contains(Local("0.0")));
+    for (const std::string& text : pic.Texts())
+        EXPECT_EQ(text.find("E-"), std::string::npos) << text;
+}
+
 TEST(DrawCurveDiagram, WhatIsNotFiniteIsAFault)
 {
     const BeamRecord beam = UniformAndPoint();
@@ -305,6 +308,7 @@ TEST_P(FortyCurves, LabelsKeepApartAndTheExtremesAreAmongThem)
             RecordingPicture pic(GetParam().Width, GetParam().Height);
             Draw(pic, kind, beam, units);
             EXPECT_EQ(Overlap(pic), "") << "beam " << seed;
+            EXPECT_EQ(Outside(pic), "") << "beam " << seed;
             for (const std::string& text : Extremes(Solve(beam), kind, units))
                 EXPECT_THAT(pic.Texts(), Contains(text)) << "beam " << seed;
         }

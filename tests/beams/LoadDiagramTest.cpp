@@ -1,6 +1,7 @@
 #include "beams/LoadDiagram.h"
 
 #include "BeamBuilders.h"
+#include "DrawnLabels.h"
 #include "beams/DiagramFrame.h"
 #include "beams/LoadLevels.h"
 #include "beams/LoadPlan.h"
@@ -16,39 +17,11 @@ using testing::IsEmpty;
 
 namespace {
 
-DiagramUnits UnitsOf(const BeamRecord& beam, int force)
-{
-    DiagramUnits units;
-    units.Length = beam.BeamLengthUnit;
-    units.Force = units.Moment = force;
-    return units;
-}
-
 LoadDiagramAreas Draw(Picture& pic, const BeamRecord& beam, int force)
 {
     const Solved solved = Solve(beam);
     return DrawLoadDiagram(pic, beam, solved.Reactions, UnitsOf(beam, force),
                            ShearMomentCase(beam));
-}
-
-std::string Overlap(const RecordingPicture& pic)
-{
-    const auto boxes = pic.TextBoxes();
-    for (std::size_t i = 0; i < boxes.size(); ++i)
-        for (std::size_t k = 0; k < i; ++k)
-            if (boxes[i].X1 < boxes[k].X2 - 0.01 && boxes[k].X1 < boxes[i].X2 - 0.01 &&
-                boxes[i].Y1 < boxes[k].Y2 - 0.01 && boxes[k].Y1 < boxes[i].Y2 - 0.01)
-                return boxes[i].Text + " covers " + boxes[k].Text;
-    return "";
-}
-
-std::string Outside(const RecordingPicture& pic)
-{
-    for (const auto& box : pic.TextBoxes())
-        if (box.X1 < -0.01 || box.Y1 < -0.01 || box.X2 > pic.WidthPixels() + 0.01 ||
-            box.Y2 > pic.HeightPixels() + 0.01)
-            return box.Text;
-    return "";
 }
 
 /// Filled heads of arrows and arcs in a colour.
@@ -213,6 +186,17 @@ TEST(DrawLoadDiagram, FiveLoadsCarryTheirSizesOnANarrowSheet)
     for (int i = 1; i <= 5; ++i)
         EXPECT_THAT(pic.Texts(),
                     Contains(Local(std::to_string(i) + "P = " + std::to_string(i) + ".0 kN")));
+}
+
+TEST(DrawLoadDiagram, ATinySheetStillKnowsItsLoads)
+{
+    const BeamRecord beam = RandomBeam(7, kMaxLoads);
+    for (const double width : {30.0, 120.0, 300.0}) {
+        RecordingPicture pic(width, width / 3);
+        const LoadDiagramAreas areas = Draw(pic, beam, kKn);
+        EXPECT_EQ(areas.HotSpots[0][kSpotKind], kMaxLoads);
+        EXPECT_TRUE(Near(areas.HotSpots[kMaxLoads][kSpotX], beam.LoadX[kMaxLoads][1]));
+    }
 }
 
 TEST(ArrangeLevels, CentresWhatHasRoom)
