@@ -30,12 +30,12 @@ struct DiagramRequest {
 };
 
 /// The options that frmBeamDiagrams has selected; it keeps them up to date.
-struct DiagramUnits {
+struct ShownUnits {
     int Length = 0;
     int Force = 0;
     int Moment = 0;
 };
-inline DiagramUnits ShownDiagramUnits;
+inline ShownUnits ShownDiagramUnits;
 
 /// What has been asked for and not been taken yet.
 inline DiagramRequest PendingDiagrams;
