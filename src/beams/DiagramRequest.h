@@ -1,6 +1,7 @@
 #pragma once
 
 #include "beams/BeamRecord.h"
+#include "beams/BeamTexts.h"
 
 #include <functional>
 #include <optional>
@@ -29,13 +30,9 @@ struct DiagramRequest {
     bool NoLoads = false;         ///< hide the captions of shear and moment
 };
 
-/// The options that frmBeamDiagrams has selected; it keeps them up to date.
-struct ShownUnits {
-    int Length = 0;
-    int Force = 0;
-    int Moment = 0;
-};
-inline ShownUnits ShownDiagramUnits;
+/// The options that frmBeamDiagrams has selected, and the EI of its last painting; it keeps them up
+/// to date.
+inline DiagramUnits ShownDiagramUnits;
 
 /// What has been asked for and not been taken yet.
 inline DiagramRequest PendingDiagrams;
