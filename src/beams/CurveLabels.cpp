@@ -91,14 +91,19 @@ class Arranger {
     Arranger(LabelBoard board, const CurveColumns& columns, const LabelledCurve& curve)
         : board_(std::move(board)), columns_(columns), curve_(curve)
     {}
-    std::vector<Placed> Arrange(const std::vector<const CurveLabel*>& labels)
+    /// Nothing where one finds no room, unless it `mayLeaveOut`.
+    std::optional<std::vector<Placed>> Arrange(const std::vector<const CurveLabel*>& labels,
+                                               bool mayLeaveOut)
     {
         std::vector<Placed> placed;
         for (const CurveLabel* label : labels) {
             best_ = {};
             cost_ = std::numeric_limits<double>::max();
             Search(*label);
-            if (cost_ == std::numeric_limits<double>::max()) continue;
+            if (cost_ == std::numeric_limits<double>::max()) {
+                if (!mayLeaveOut) return std::nullopt;
+                continue;
+            }
             board_.Take(best_);
             if (const auto leader = LeaderOf(*label, best_)) board_.Take(*leader);
             placed.push_back({label, best_});
@@ -133,8 +138,8 @@ class Arranger {
             board_.BoxOf(label.Text, label.Column + aside, label.Y + (above ? -away : away), lean,
                          above ? VAlign::Bottom : VAlign::Top);
         if (box.Y1 <= curve_.Baseline && box.Y2 >= curve_.Baseline) cost += kBaselineCost;
-        if (cost >= cost_ || box.Y1 < curve_.Top || box.Y2 > curve_.Bottom || !board_.IsFree(box) ||
-            columns_.Crosses(box))
+        if (cost >= cost_ || box.Y1 < curve_.Top || box.Y2 > curve_.Bottom ||
+            columns_.Crosses(box) || !board_.IsFree(box))
             return;
         if (const auto leader = LeaderOf(label, box); leader && !board_.IsFree(*leader)) return;
         best_ = box;
@@ -170,9 +175,9 @@ void PrintCurveLabels(Picture& pic, LabelBoard& board, const LabelledCurve& curv
     const double fontSize = pic.FontSize;
     for (const double step : FontSteps(fontSize)) {
         pic.FontSize = step;
-        const auto placed = Arranger(board, columns, curve).Arrange(order);
-        if (placed.size() < order.size() && step > kSmallestFont) continue;
-        for (const Placed& one : placed) PrintOne(board, pic, one, curve.Ink);
+        const auto placed = Arranger(board, columns, curve).Arrange(order, step <= kSmallestFont);
+        if (!placed) continue;
+        for (const Placed& one : *placed) PrintOne(board, pic, one, curve.Ink);
         break;
     }
     pic.FontSize = fontSize;

@@ -131,7 +131,7 @@ void frmBeamStufLayout::SetPictures()
 
 void frmBeamStufLayout::SetSizes()
 {
-    for (auto* box : findChildren<screen::TextBox*>()) box->setFixedWidth(screen::kNumberWidth);
+    for (auto* box : findChildren<QLineEdit*>()) box->setFixedWidth(screen::kNumberWidth);
     cboLoadBackup->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     cboLoadBackup->setMaxVisibleItems(20);
     for (const auto& [index, button] : cmdEditLoadSpin.Members())
