@@ -124,7 +124,7 @@ void Drag(benchmark::State& state)
         Send(picture, QEvent::MouseMove, {200 + step, 600 - step}, Qt::NoButton);
     }
 }
-BENCHMARK(Drag)->Arg(0)->Arg(20)->Arg(100)->Unit(benchmark::kMillisecond);
+BENCHMARK(Drag)->Arg(0)->Arg(20)->Arg(30)->Arg(100)->Unit(benchmark::kMillisecond);
 
 /// The whole picture anew, as after each release.
 void Redraw(benchmark::State& state)
@@ -132,7 +132,7 @@ void Redraw(benchmark::State& state)
     screen::PictureBox& picture = OpenWith(CrossingMembers(static_cast<int>(state.range(0))));
     for (auto _ : state) picture.PaintNow();
 }
-BENCHMARK(Redraw)->Arg(0)->Arg(20)->Arg(100)->Unit(benchmark::kMillisecond);
+BENCHMARK(Redraw)->Arg(0)->Arg(20)->Arg(30)->Arg(40)->Arg(100)->Unit(benchmark::kMillisecond);
 
 } // namespace
 

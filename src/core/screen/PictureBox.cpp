@@ -127,6 +127,17 @@ void PictureBox::Paint()
     painting_ = false;
 }
 
+void PictureBox::PaintOver(QPainter& painter)
+{
+    PainterPicture over(painter, SheetArea(*this, square_));
+    CopyScale(over, *sheet_);
+    try {
+        OnPaintOver(over);
+    } catch (const ArithmeticFault&) {
+        return; // what was painted under it stays
+    }
+}
+
 void PictureBox::PaintNow()
 {
     Paint();
@@ -189,6 +200,7 @@ void PictureBox::paintEvent(QPaintEvent* /*event*/)
     QPainter painter(this);
     if (square_) painter.fillRect(rect(), palette().base());
     painter.drawImage(SheetArea(*this, square_), image_);
+    if (OnPaintOver) PaintOver(painter);
     if (!hasFocus()) return;
     painter.setPen(palette().color(QPalette::Highlight));
     painter.drawRect(rect().adjusted(0, 0, -1, -1));

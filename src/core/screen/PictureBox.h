@@ -9,6 +9,8 @@
 #include <memory>
 #include <string>
 
+class QPainter;
+
 namespace forcelab::screen {
 
 class Form;
@@ -41,6 +43,9 @@ class PictureBox : public QWidget {
     using MouseHandler = std::function<void(const MouseAction&)>;
 
     Painter OnPaint;
+    /// Paints what changes all the time, such as a rubber band, over the last painting of OnPaint.
+    /// It is seen on the window alone: files, the clipboard and Image go without.
+    Painter OnPaintOver;
     MouseHandler OnMouseDown;
     MouseHandler OnMouseMove;
     MouseHandler OnMouseUp;
@@ -51,6 +56,8 @@ class PictureBox : public QWidget {
 
     /// Paints anew before the next showing; a hidden picture only when it is shown.
     void Refresh();
+    /// Paints only what OnPaintOver does anew.
+    void RefreshOver() { update(); }
     /// Paints at once, whether or not the picture is visible.
     void PaintNow();
     /// The sheet of the last painting, with its scale.
@@ -85,6 +92,7 @@ class PictureBox : public QWidget {
 
   private:
     void Paint();
+    void PaintOver(QPainter& painter);
     void FitBuffer();
     void KeepTexts();
     [[nodiscard]] PictureExport Export() const;

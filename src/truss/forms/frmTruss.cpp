@@ -53,6 +53,7 @@ void frmTruss::Connect()
         On(heading, &QLineEdit::textChanged, [this, i = index] { txtTrussResults_Change(i); });
     On(timMotion, &QTimer::timeout, [this] { timMotion_Timer(); });
     picTruss->OnPaint = [this](Picture& pic) { picTruss_Paint(pic); };
+    picTruss->OnPaintOver = [this](Picture& pic) { DrawOver(pic); };
     picTruss->OnMouseDown = [this](const auto& mouse) { picTruss_MouseDown(mouse); };
     picTruss->OnMouseMove = [this](const auto& mouse) { picTruss_MouseMove(mouse); };
     picTruss->OnMouseUp = [this](const auto& mouse) { picTruss_MouseUp(mouse); };

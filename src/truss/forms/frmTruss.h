@@ -73,6 +73,7 @@ class frmTruss : public frmTrussLayout {
     bool StopMotion();
     void Explain(const std::string& text);
     void DrawResults(Picture& pic, double memberWidth, double jointWidth) const;
+    void DrawOver(Picture& pic) const;
     void DrawBand(Picture& pic) const;
     void DrawCursor(Picture& pic) const;
     double PrintPicture(screen::Printer& printer);

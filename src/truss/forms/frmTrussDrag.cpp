@@ -49,7 +49,8 @@ void frmTruss::Press(double x, double y)
 {
     StopMotion();
     drag_ = PressPoint(CurrentTruss, TrussMode, x, y, true);
-    if (drag_.DragActive) ResultsShown = false;
+    if (!ResultsShown || !drag_.DragActive) return picTruss->RefreshOver();
+    ResultsShown = false;
     picTruss->Refresh();
 }
 
@@ -57,7 +58,7 @@ void frmTruss::DragOn(double x, double y)
 {
     if (!drag_.DragActive) return;
     DragTo(CurrentTruss, TrussMode, drag_, x, y);
-    picTruss->Refresh();
+    picTruss->RefreshOver();
 }
 
 void frmTruss::Release(double x, double y)
@@ -112,7 +113,7 @@ void frmTruss::MoveCursor(int right, int up)
     else
         keys_.Move(CurrentTruss, right, up);
     DragOn(keys_.X(), keys_.Y());
-    picTruss->Refresh();
+    picTruss->RefreshOver();
 }
 
 // The arrow stays on the picture while its size is asked for.

@@ -52,6 +52,12 @@ void frmTruss::picTruss_Paint(Picture& pic)
     }
     if (ResultsShown) return DrawResults(pic, kMemberWidth, kJointWidth);
     DrawTruss(pic, CurrentTruss);
+}
+
+// The rubber band and the cursor, for which nothing under them is drawn again.
+void frmTruss::DrawOver(Picture& pic) const
+{
+    if (!CurrentTruss.HasGrid() || motion_ || ResultsShown) return;
     DrawBand(pic);
     DrawCursor(pic);
 }

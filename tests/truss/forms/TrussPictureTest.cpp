@@ -18,11 +18,8 @@ class TrussPicture : public TrussFormTest {
                       "Check the truss input data."});
         Click("cmdSpacing(1)");
     }
-    QImage Painted()
-    {
-        Truss().PaintNow();
-        return Truss().Image();
-    }
+    /// As the window shows it, with what is painted over the picture.
+    QImage Painted() { return Truss().grab().toImage(); }
     /// Runs the motion on without waiting for the clock.
     void TicksOfMotion(int count)
     {
@@ -73,6 +70,7 @@ TEST_F(TrussPicture, AnyClickAndAnyKeyEndTheMotion)
 TEST_F(TrussPicture, RubberBandFollowsTheMouseAndEscapeGivesItUp)
 {
     LayGrid(3, 3);
+    Truss().setFocus();
     const QImage before = Painted();
     QTest::mousePress(&Truss(), Qt::LeftButton, Qt::NoModifier, Truss().PixelOf(0, 0));
     MoveTo(Truss().PixelOf(12, 17));
@@ -84,6 +82,32 @@ TEST_F(TrussPicture, RubberBandFollowsTheMouseAndEscapeGivesItUp)
     EXPECT_EQ(before, Painted());
     QTest::mouseRelease(&Truss(), Qt::LeftButton, Qt::NoModifier, Truss().PixelOf(20, 10));
     EXPECT_EQ(CurrentTruss.MemberCount, 0);
+}
+
+TEST_F(TrussPicture, DragPaintsTheBandAloneAndFilesGoWithoutIt)
+{
+    DrawTriangle();
+    Truss().PaintNow();
+    const auto paint = Truss().OnPaint;
+    int painted = 0;
+    Truss().OnPaint = [&](Picture& pic) {
+        ++painted;
+        paint(pic);
+    };
+    const QImage still = Truss().Image();
+    Choose("optTrussDefine(0)");
+    Painted();
+    painted = 0;
+    QTest::mousePress(&Truss(), Qt::LeftButton, Qt::NoModifier, Truss().PixelOf(30, 30));
+    const QImage before = Painted();
+    for (const double x : {25, 20, 15, 10}) MoveTo(Truss().PixelOf(x, 20));
+    EXPECT_NE(before, Painted());
+    EXPECT_EQ(painted, 0);
+    EXPECT_EQ(Truss().Image(), still);
+    QTest::mouseRelease(&Truss(), Qt::LeftButton, Qt::NoModifier, Truss().PixelOf(10, 20));
+    Painted();
+    EXPECT_EQ(painted, 1);
+    Truss().OnPaint = paint;
 }
 
 TEST_F(TrussPicture, ModeChangedDuringADragEndsIt)
