@@ -41,11 +41,19 @@ std::string TickText(int line, float spacing)
     return Format(line * static_cast<double>(spacing), kTickMask);
 }
 
+double WidestTick(const Picture& pic, int spaces, float spacing)
+{
+    double widest = 0;
+    for (int line = 0; line <= spaces; ++line)
+        widest = std::max(widest, pic.TextWidth(TickText(line, spacing)));
+    return widest;
+}
+
 void DrawUprightMarks(Picture& pic, const TrussModel& model)
 {
     const double over = model.GridSpacingY / 4;
     const double height = model.GridSpacesY * static_cast<double>(model.GridSpacingY);
-    const double widest = pic.TextWidth(TickText(model.GridSpacesX, model.GridSpacingX));
+    const double widest = WidestTick(pic, model.GridSpacesX, model.GridSpacingX);
     const int step = TickStep(model.GridSpacesX, model.GridSpacingX, widest);
     for (int i = 0; i <= model.GridSpacesX; ++i) {
         const double x = i * static_cast<double>(model.GridSpacingX);
@@ -104,10 +112,10 @@ struct WaitingLabel {
 };
 using WaitingLabels = std::vector<WaitingLabel>;
 
-void Place(TrussSheet& sheet, const WaitingLabels& labels, bool needed)
+void Place(TrussSheet& sheet, const WaitingLabels& labels, LabelNeed need)
 {
     for (const WaitingLabel& label : labels)
-        sheet.Label(label.Places, label.Angle, label.Text, label.Colour, needed);
+        sheet.Label(label.Places, label.Angle, label.Text, label.Colour, need);
 }
 
 /// For many members: each label on what it names, or nowhere.
@@ -177,7 +185,7 @@ int ForceColour(double force)
     return force > 0 ? kTensionColour : kCompressionColour;
 }
 
-/// The middle of a member; where there are many, other points of it too, and of a level one
+/// The middle of a member and other points of it; where there are many members, of a level one
 /// points above and below it.
 std::vector<PicturePoint> LabelPlaces(Picture& pic, const TrussModel& model,
                                       const TrussMember& member)
@@ -188,8 +196,8 @@ std::vector<PicturePoint> LabelPlaces(Picture& pic, const TrussModel& model,
         return PicturePoint{from.X + share * run.X,
                             from.Y + share * run.Y + rows * pic.TextHeight("0")};
     };
-    if (!IsCrowded(model)) return {at(0.5, 0)};
-    if (run.Y == 0) return {at(0.5, 1), at(0.5, -1), at(0.5, 2.2), at(0.5, -2.2)};
+    if (IsCrowded(model) && run.Y == 0)
+        return {at(0.5, 1), at(0.5, -1), at(0.5, 2.2), at(0.5, -2.2)};
     std::vector<PicturePoint> places;
     for (const double share : {0.5, 0.4, 0.6, 0.3, 0.7, 0.2, 0.8}) places.push_back(at(share, 0));
     return places;
@@ -291,15 +299,16 @@ void DrawTruss(Picture& pic, const TrussModel& model)
     if (model.Members().empty()) return;
     const JointList joints = BuildJointList(model);
     TrussSheet sheet(pic, model);
+    sheet.KeepOffCoordinates(WidestTick(pic, model.GridSpacesY, model.GridSpacingY));
     sheet.Take(kMemberColour, kMemberWidth);
     for (const TrussMember& member : model.Members()) DrawMember(sheet, model, member);
     const WaitingLabels angles = DrawAngles(sheet, model);
     DrawSupports(sheet, model, joints);
-    Place(sheet, DrawLoads(sheet, model, joints), true);
+    Place(sheet, DrawLoads(sheet, model, joints), LabelNeed::Anywhere);
     if (IsCrowded(model))
         PlaceOn(sheet, angles);
     else
-        Place(sheet, angles, false);
+        Place(sheet, angles, LabelNeed::IfRoom);
     pic.DrawWidth = 1;
 }
 
@@ -309,6 +318,7 @@ void DrawTrussResults(Picture& pic, const TrussModel& model, const TrussResults&
     const double base = pic.FontSize;
     const bool crowded = IsCrowded(model);
     TrussSheet sheet(pic, model);
+    sheet.KeepOffCoordinates(WidestTick(pic, model.GridSpacesY, model.GridSpacingY));
     const WaitingLabels forces = DrawForces(sheet, model, results, memberWidth);
     const WaitingLabels reactions = DrawReactions(sheet, model, results);
     const WaitingLabels letters = JointLetters(sheet, model, results, jointWidth);
@@ -316,12 +326,12 @@ void DrawTrussResults(Picture& pic, const TrussModel& model, const TrussResults&
     if (crowded)
         PlaceOn(sheet, BesideJoints(pic, letters));
     else
-        Place(sheet, letters, true);
+        Place(sheet, letters, LabelNeed::Anywhere);
     pic.FontSize = crowded ? base - 1 : base;
     if (crowded) PlaceOn(sheet, forces);
     pic.FontSize = base;
-    Place(sheet, reactions, true);
-    if (!crowded) Place(sheet, forces, true);
+    Place(sheet, reactions, LabelNeed::Anywhere);
+    if (!crowded) Place(sheet, forces, LabelNeed::Beside);
     pic.ForeColor = IndexedColour(kLabelColour);
     pic.DrawWidth = 1;
 }
@@ -342,6 +352,7 @@ void DrawMotion(Picture& pic, const TrussModel& model, const Mechanism& motion, 
     DrawGridMarks(pic, model);
     const JointList joints = BuildJointList(model);
     TrussSheet sheet(pic, model);
+    sheet.KeepOffCoordinates(WidestTick(pic, model.GridSpacesY, model.GridSpacingY));
     sheet.Take(kRestColour, 2);
     for (const TrussMember& member : model.Members()) DrawMember(sheet, model, member);
     const double reach = kMotionShare * share * std::max(model.GridSpacingX, model.GridSpacingY);
@@ -361,7 +372,8 @@ void DrawMotion(Picture& pic, const TrussModel& model, const Mechanism& motion, 
         const std::string name = JointNameOf(joint);
         if (std::find(motion.Moving.begin(), motion.Moving.end(), name) == motion.Moving.end())
             continue;
-        sheet.Label({moved(joints.JointGridPoint[joint])}, kPi / 2, name, kLetterColour, true);
+        sheet.Label({moved(joints.JointGridPoint[joint])}, kPi / 2, name, kLetterColour,
+                    LabelNeed::Anywhere);
     }
     pic.DrawWidth = 1;
 }

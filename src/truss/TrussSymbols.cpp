@@ -54,15 +54,24 @@ void TrussSheet::Line(double x1, double y1, double x2, double y2)
 }
 
 void TrussSheet::Label(const std::vector<PicturePoint>& places, double angle,
-                       const std::string& text, int colour, bool needed)
+                       const std::string& text, int colour, LabelNeed need)
 {
     LabelWish wish;
     for (const PicturePoint place : places) wish.Anchors.push_back({place, angle});
     wish.Text = {{text, LabelPart::Kind::Plain}};
     wish.Ink = IndexedColour(colour);
-    wish.Needed = needed;
-    wish.Leader = needed;
+    wish.Needed = need != LabelNeed::IfRoom;
+    wish.Leader = need == LabelNeed::Anywhere;
     placer_.Place(wish);
+}
+
+void TrussSheet::KeepOffCoordinates(double widest)
+{
+    const double left = pic_.ScaleLeft();
+    const double top = pic_.ScaleTop();
+    placer_.Reserve({left, top}, {left + pic_.ScaleWidth(), top - pic_.TextHeight("0")});
+    placer_.Reserve({left, top},
+                    {left + pic_.TextWidth("0") / 2 + widest, top + pic_.ScaleHeight()});
 }
 
 bool TrussSheet::IsFree(const Box& box) const

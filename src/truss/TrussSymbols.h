@@ -22,6 +22,10 @@ inline constexpr int kRestColour = 8;
 inline constexpr int kLetterColour = 4;
 inline constexpr int kLabelColour = 0;
 
+/// How far a label may go for room: left out where it has none beside its point; always there and
+/// beside its point, even across a line; or anywhere, with a thin line to its point.
+enum class LabelNeed { IfRoom, Beside, Anywhere };
+
 /// A sheet with a truss on it: draws lines and keeps labels off them. Lines first, labels last.
 class TrussSheet {
   public:
@@ -31,7 +35,7 @@ class TrussSheet {
     void Line(double x1, double y1, double x2, double y2);
     /// A label at the first of several points that has room; an angle is the side as seen.
     void Label(const std::vector<PicturePoint>& places, double angle, const std::string& text,
-               int colour, bool needed);
+               int colour, LabelNeed need);
     /// A label centred on the first of several points where it covers no other such label; left
     /// out where there is none. For crowded sheets: what it names is what it stands on.
     void LabelOn(const std::vector<PicturePoint>& places, const std::string& text, int colour);
@@ -46,6 +50,8 @@ class TrussSheet {
 
     /// Angle as seen of a direction in the grid's unit.
     [[nodiscard]] double SeenAngle(double dx, double dy) const;
+    /// Keeps labels off the coordinates of the grid, along the top and the left.
+    void KeepOffCoordinates(double widest);
     [[nodiscard]] Picture& Pic() { return pic_; }
 
   private:

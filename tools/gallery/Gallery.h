@@ -1,6 +1,10 @@
 #pragma once
 
+#include "core/screen/Form.h"
+
 #include <QDir>
+#include <QImage>
+#include <QPointF>
 #include <QSize>
 
 #include <string>
@@ -16,10 +20,19 @@ struct Step {
         Text,  ///< types into a box, or picks a line of a list
         Click, ///< clicks a button, option or check box
         Menu,
-        Key, ///< types letter by letter; "\t" Tab, "\n" Enter, "^" and "v" the arrows
+        Key,     ///< types letter by letter; "\t" Tab, "\n" Enter, "^" and "v" the arrows
+        Drag,    ///< draws with the left button on a picture, in its scale
+        Hold,    ///< the same without letting the button go
+        Tick,    ///< lets a timer come so many times, which then stands still
+        Answer,  ///< steps on the modal form that the next step brings up
+        Message, ///< the message, by its title, that the next step brings up
+        Keep,    ///< the form as it is now is the scene's picture
     } What;
     std::string Name; ///< of the control
     std::string Value;
+    QPointF From = {};
+    QPointF To = {};
+    std::vector<Step> Inner = {};
 };
 using Steps = std::vector<Step>;
 
@@ -27,6 +40,12 @@ Step Text(const std::string& name, const std::string& value);
 Step Click(const std::string& name);
 Step Menu(const std::string& name);
 Step Key(const std::string& name, const std::string& letters);
+Step Drag(const std::string& name, QPointF from, QPointF to);
+Step Hold(const std::string& name, QPointF from, QPointF to);
+Step Tick(const std::string& name, int times);
+Step Answer(const std::string& form, const Steps& steps);
+Step Message(const std::string& title, bool keep = false); ///< kept with the form behind it
+Step Keep();
 Steps operator+(Steps first, const Steps& second);
 
 struct Scene {
@@ -48,10 +67,20 @@ std::vector<Scene> FailureScenes();
 std::vector<Scene> SectionScenes();
 std::vector<Scene> ReportScenes();
 std::vector<Scene> EquationScenes();
+std::vector<Scene> TrussScenes();
 
 /// Tells what went wrong; the gallery then ends with a failure.
 void Complain(const std::string& what);
 bool HasFailed();
+
+/// Does a step on a form.
+void Do(const screen::Form& form, const Step& step);
+/// Does the steps that Stage.cpp does not know: drags, timers, modal forms, messages.
+void Gesture(const screen::Form& form, const Step& step);
+/// Answers a message that was announced; False for any other.
+bool AnswerMessage(QWidget* owner, int code, const std::string& text, const std::string& title);
+/// What Keep or Message kept since the last call; nothing where they did not.
+QImage TakeKept();
 
 /// Services that answer as a usual screen does and expect no message.
 void SetServices();

@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QListWidget>
+#include <QScrollBar>
 
 #include <cstdio>
 
@@ -25,10 +26,10 @@ bool Failed = false;
 // A worked problem brings no message.
 class NoMessages : public forcelab::screen::MessageService {
   public:
-    int Show(QWidget* /*owner*/, int /*code*/, const std::string& text,
-             const std::string& /*title*/) override
+    int Show(QWidget* owner, int code, const std::string& text, const std::string& title) override
     {
-        Complain("a message that was not expected: " + text);
+        if (!AnswerMessage(owner, code, text, title))
+            Complain("a message that was not expected: " + text);
         return forcelab::kAnswerOk;
     }
 };
@@ -139,13 +140,17 @@ void SetText(QWidget& widget, const std::string& text)
 {
     if (auto* box = qobject_cast<QLineEdit*>(&widget)) return box->setText(Q(text));
     if (auto* label = qobject_cast<QLabel*>(&widget)) return label->setText(Q(text));
+    if (auto* bar = qobject_cast<QScrollBar*>(&widget)) return bar->setValue(std::stoi(text));
     if (auto* list = qobject_cast<QListWidget*>(&widget)) return Pick(*list, text);
     Complain("no text on " + widget.objectName().toStdString());
 }
 
+} // namespace
+
 void Do(const Form& form, const Step& step)
 {
     if (step.What == Step::Kind::Menu) return Trigger(form, step.Name);
+    if (step.What > Step::Kind::Key) return Gesture(form, step);
     QWidget* widget = form.ControlNamed(step.Name);
     if (!widget) return Complain("no control " + step.Name);
     if (step.What == Step::Kind::Text) return SetText(*widget, step.Value);
@@ -154,6 +159,8 @@ void Do(const Form& form, const Step& step)
     if (!button || !button->isEnabled()) return Complain("cannot click " + step.Name);
     button->click();
 }
+
+namespace {
 
 // A fresh form with its steps done; nothing where the program has no such form.
 Form* Play(const Scene& scene)
@@ -184,8 +191,10 @@ Form* Follow(const Scene& scene)
 void Save(QWidget& window, const QDir& folder, const char* name)
 {
     QCoreApplication::processEvents();
+    const QImage kept = TakeKept();
     const QString file = folder.filePath(QStringLiteral("%1.png").arg(QLatin1String(name)));
-    if (!window.grab().save(file)) Complain("cannot write " + file.toStdString());
+    if (!(kept.isNull() ? window.grab().toImage() : kept).save(file))
+        Complain("cannot write " + file.toStdString());
 }
 
 void Draw(const Scene& scene, const QDir& folder)

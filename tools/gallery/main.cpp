@@ -47,7 +47,7 @@ int main(int argc, char** argv)
     SetServices();
     forcelab::RegisterForms();
     for (const auto& scenes : {MenuScenes(), MohrScenes(), FailureScenes(), SectionScenes(),
-                               ReportScenes(), EquationScenes()}) {
+                               ReportScenes(), EquationScenes(), TrussScenes()}) {
         for (const Scene& scene : scenes) Draw(scene, folder);
     }
     DrawHelp(folder);

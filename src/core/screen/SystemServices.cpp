@@ -37,6 +37,14 @@ QMessageBox::Icon IconOf(int code)
     }
 }
 
+// Lines end with a carriage return, alone or before a line feed.
+QString Lines(const std::string& text)
+{
+    return QString::fromStdString(text)
+        .replace(QStringLiteral("\r\n"), QStringLiteral("\n"))
+        .replace(QLatin1Char('\r'), QLatin1Char('\n'));
+}
+
 class SystemMessages : public MessageService {
   public:
     int Show(QWidget* owner, int code, const std::string& text, const std::string& title) override
@@ -45,7 +53,7 @@ class SystemMessages : public MessageService {
         box.setIcon(IconOf(code));
         box.setWindowTitle(QString::fromStdString(title));
         box.setTextFormat(Qt::PlainText);
-        box.setText(QString::fromStdString(text).remove(QLatin1Char('\r')));
+        box.setText(Lines(text));
         box.setStandardButtons((code & kButtonBits) == 1 ? QMessageBox::Ok | QMessageBox::Cancel
                                                          : QMessageBox::Ok);
         box.setDefaultButton(QMessageBox::Ok);

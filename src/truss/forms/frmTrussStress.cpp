@@ -15,6 +15,7 @@ namespace {
 
 constexpr int kAreaColumn = 2;
 constexpr int kColumns = 4;
+constexpr Qt::Alignment kNumberAlignment = Qt::AlignRight | Qt::AlignVCenter;
 const QColor kAreaColour(0xFF, 0xFB, 0xE0); // of the cells to type in
 
 } // namespace
@@ -101,16 +102,17 @@ void frmTrussStress::ShowTable()
 {
     const std::vector<StressRow> rows = Table();
     grdStress->SetSize(static_cast<int>(rows.size()) + 1, kColumns, 1, 1);
-    for (int column = 0; column < kColumns; ++column)
+    for (int column = 0; column < kColumns; ++column) {
         grdStress->SetCellText(0, column, kStressColumns[column]);
+        if (column > 0) grdStress->SetCellAlignment(0, column, kNumberAlignment);
+    }
     int line = 0;
     for (const StressRow& row : rows) {
         const std::string* cells[kColumns] = {&row.Name, &row.Force, &row.Area, &row.Stress};
         ++line;
         for (int column = 0; column < kColumns; ++column) {
             grdStress->SetCellText(line, column, *cells[column]);
-            if (column > 0)
-                grdStress->SetCellAlignment(line, column, Qt::AlignRight | Qt::AlignVCenter);
+            if (column > 0) grdStress->SetCellAlignment(line, column, kNumberAlignment);
         }
         grdStress->SetCellColour(line, kAreaColumn, kAreaColour);
     }

@@ -50,12 +50,13 @@ TEST_P(SystemMessage, HasIconTextTitleAndButtons)
     OnNextDialog<QMessageBox>([&](QMessageBox& box) {
         EXPECT_EQ(box.icon(), row.Icon);
         EXPECT_EQ(box.windowTitle(), "Title");
-        EXPECT_EQ(box.text(), "a < b & c\nsecond line");
+        EXPECT_EQ(box.text(), "a < b & c\nsecond line\nthird");
         EXPECT_EQ(box.textFormat(), Qt::PlainText);
         EXPECT_EQ(box.button(QMessageBox::Cancel) != nullptr, row.HasCancel);
         QTest::mouseClick(box.button(QMessageBox::Ok), Qt::LeftButton);
     });
-    EXPECT_EQ(messages->Show(nullptr, row.Code, "a < b & c\r\nsecond line", "Title"), kAnswerOk);
+    EXPECT_EQ(messages->Show(nullptr, row.Code, "a < b & c\r\nsecond line\rthird", "Title"),
+              kAnswerOk);
 }
 
 TEST_P(SystemMessage, EscapeIsCancelWhereThereIsOne)
