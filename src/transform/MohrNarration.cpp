@@ -2,10 +2,10 @@
 
 #include "core/NumericText.h"
 #include "core/Units.h"
+#include "core/Workings.h"
 #include "transform/MohrModes.h"
 #include "transform/MohrTexts.h"
 #include "transform/RosetteNarration.h"
-#include "transform/Workings.h"
 
 #include <algorithm>
 #include <cmath>
@@ -14,8 +14,8 @@ namespace forcelab::transform {
 
 namespace {
 
-constexpr std::string_view kDegreeMask = "##0.0#";
-constexpr std::string_view kRotationMask = "##0.0##";
+constexpr NumberStyle kDegrees{"##0.0#", "°"};
+constexpr NumberStyle kRotation{"##0.0##", "°"};
 constexpr double kDegree = kPi / 180;
 
 struct Symbols {
@@ -35,25 +35,13 @@ Symbols SymbolsOf(MohrMode mode)
             "Sigma 2", "Sigma 3", "Tau Max XY", "Tau Abs Max"};
 }
 
-std::string Degrees(double degrees)
-{
-    return Format(degrees, kDegreeMask) + "°";
-}
-
-/// A printed number as the argument of a function, which has parentheses of its own.
-std::string Argument(const Printed& number)
-{
-    const std::string& text = number.Text;
-    return text.front() == '(' ? text : "(" + text + ")";
-}
-
 /// The explanation in the making.
 class MohrExplanation {
   public:
     MohrExplanation(const StressState& state, const MohrEntry& entry)
-        : state_(state), entry_(entry), symbols_(SymbolsOf(entry.Mode)),
-          mask_(MohrMask(entry.Mode, entry.Unit)), unit_(kMohrUnits[entry.Unit]),
-          half_((state.SigmaX - state.SigmaY) / 2)
+        : state_(state), entry_(entry),
+          symbols_(SymbolsOf(entry.Mode)), style_{MohrMask(entry.Mode, entry.Unit)},
+          unit_(kMohrUnits[entry.Unit]), half_((state.SigmaX - state.SigmaY) / 2)
     {}
 
     std::string Text()
@@ -70,15 +58,20 @@ class MohrExplanation {
     }
 
   private:
-    [[nodiscard]] Operand Value(double value) const
+    [[nodiscard]] Expression Value(double value) const
     {
-        return {value * state_.ValueScale, mask_, ""};
+        return Number(value * state_.ValueScale, style_);
     }
-    /// A value of a line whose result is a shear strain, in the unit of that.
-    [[nodiscard]] Operand Strain(double value) const
+    /// Shear strains in microstrain are in rad with their millionths.
+    [[nodiscard]] bool IsMicro() const
     {
-        const bool micro = IsStrain(entry_.Mode) && ShearStrainUnit(entry_) != " rad";
-        return {value * state_.ValueScale, mask_, micro ? "E-06" : ""};
+        return IsStrain(entry_.Mode) && ShearStrainUnit(entry_) != " rad";
+    }
+    [[nodiscard]] NumberStyle ShearStyle() const { return {style_.Mask, IsMicro() ? "E-06" : ""}; }
+    /// A value of a line whose result is a shear, in the unit of that.
+    [[nodiscard]] Expression Strain(double value) const
+    {
+        return Number(value * state_.ValueScale * ShearStyle().One(), ShearStyle());
     }
     [[nodiscard]] std::string Shown(double value) const { return MohrText(state_, entry_, value); }
     [[nodiscard]] std::string ShownWithUnit(double value) const
@@ -88,34 +81,26 @@ class MohrExplanation {
 
     /// A line whose result is a value of the circle.
     void ValueLine(const std::string& name, const std::string& symbols,
-                   const std::vector<Operand>& operands,
-                   const std::function<PrintedList(const PrintedList&, int)>& putIn, double exact)
+                   const std::vector<Expression>& putIn, double exact)
     {
-        const std::string mask(mask_);
-        text_.Line(
-            WriteLine({name, symbols, operands, putIn, exact * state_.ValueScale,
-                       [mask](double value) { return Format(value, mask); }, std::string(unit_)}));
+        text_.Line(WriteLine(
+            {name, symbols, putIn, style_, std::string(unit_), exact * state_.ValueScale}));
     }
     /// A line whose result is a shear, doubled in strain.
-    void ShearLine(const std::string& name, const std::string& symbols,
-                   const std::vector<Operand>& operands,
-                   const std::function<PrintedList(const PrintedList&, int)>& putIn, double shear)
+    void ShearLine(const std::string& name, const std::string& symbols, const Expression& putIn,
+                   double shear)
     {
-        if (!IsStrain(entry_.Mode)) return ValueLine(name, symbols, operands, putIn, shear);
-        const std::string mask(mask_);
-        const bool micro = ShearStrainUnit(entry_) != " rad";
-        const double exact = 2 * shear * state_.ValueScale * (micro ? 1e-6 : 1);
-        const auto show = [mask, micro](double value) {
-            return micro ? Format(value * 1e6, mask) + "E-06" : Format(value, mask);
-        };
-        text_.Line(WriteLine({name, symbols, operands, putIn, exact, show, "rad"}));
+        if (!IsStrain(entry_.Mode)) return ValueLine(name, symbols, {putIn}, shear);
+        text_.Line(WriteLine({name,
+                              symbols,
+                              {putIn},
+                              ShearStyle(),
+                              "rad",
+                              2 * shear * state_.ValueScale * ShearStyle().One()}));
     }
-    void AngleLine(const std::string& name, const std::string& symbols,
-                   const std::vector<Operand>& operands,
-                   const std::function<PrintedList(const PrintedList&, int)>& putIn, double degrees)
+    void AngleLine(const std::string& name, const std::string& symbols, const Expression& putIn)
     {
-        text_.Line(WriteLine({name, symbols, operands, putIn, degrees,
-                              [](double value) { return Format(value, kDegreeMask) + "°"; }, ""}));
+        text_.Line(WriteLine({name, symbols, {putIn}, kDegrees}));
     }
 
     void ExplainGiven()
@@ -138,21 +123,11 @@ class MohrExplanation {
     void ExplainCircle()
     {
         text_.Heading("Center and radius");
-        const std::vector<Operand> ends{Value(state_.SigmaX), Value(state_.SigmaY)};
-        ValueLine(
-            "Center", "(" + symbols_.X + " + " + symbols_.Y + ") ÷ 2", ends,
-            [](const PrintedList& n, int) -> PrintedList {
-                return {
-                    {"(" + n[0].Text + " + " + n[1].Text + ") ÷ 2", (n[0].Value + n[1].Value) / 2}};
-            },
-            state_.CircleCentre);
-        ValueLine(
-            "Half difference", "(" + symbols_.X + " - " + symbols_.Y + ") ÷ 2", ends,
-            [](const PrintedList& n, int) -> PrintedList {
-                return {
-                    {"(" + n[0].Text + " - " + n[1].Text + ") ÷ 2", (n[0].Value - n[1].Value) / 2}};
-            },
-            half_);
+        const Expression x = Value(state_.SigmaX), y = Value(state_.SigmaY);
+        ValueLine("Center", "(" + symbols_.X + " + " + symbols_.Y + ") ÷ 2", {(x + y) / 2},
+                  state_.CircleCentre);
+        ValueLine("Half difference", "(" + symbols_.X + " - " + symbols_.Y + ") ÷ 2", {(x - y) / 2},
+                  half_);
         ExplainRadius();
     }
 
@@ -160,19 +135,9 @@ class MohrExplanation {
     {
         text_.Line("The half difference and " + symbols_.Shear +
                    " are the sides of a right triangle whose hypotenuse is the radius.");
-        const std::string_view mask = mask_;
-        ValueLine(
-            "Radius", "√(Half difference² + " + symbols_.Shear + "²)",
-            {Value(half_), Value(state_.TauXY)},
-            [mask](const PrintedList& n, int more) -> PrintedList {
-                const double squares[] = {n[0].Value * n[0].Value, n[1].Value * n[1].Value};
-                const Printed a = PrintOperand({squares[0], mask, ""}, more);
-                const Printed b = PrintOperand({squares[1], mask, ""}, more);
-                return {{"√(" + n[0].Text + "² + " + n[1].Text + "²)",
-                         std::sqrt(squares[0] + squares[1])},
-                        {"√(" + a.Text + " + " + b.Text + ")", std::sqrt(a.Value + b.Value)}};
-            },
-            state_.CircleRadius);
+        const Expression a = Raised(Value(half_), 2), b = Raised(Value(state_.TauXY), 2);
+        ValueLine("Radius", "√(Half difference² + " + symbols_.Shear + "²)",
+                  {Root(a + b), Root(Worked(a, style_) + Worked(b, style_))}, state_.CircleRadius);
     }
 
     void ExplainPrincipals()
@@ -180,19 +145,9 @@ class MohrExplanation {
         text_.Heading("Principal values");
         text_.Sentence("They lie where the circle crosses the axis, a radius to either side of "
                        "the center.");
-        const std::vector<Operand> parts{Value(state_.CircleCentre), Value(state_.CircleRadius)};
-        ValueLine(
-            symbols_.One, "Center + Radius", parts,
-            [](const PrintedList& n, int) -> PrintedList {
-                return {{n[0].Text + " + " + n[1].Text, n[0].Value + n[1].Value}};
-            },
-            state_.PrincipalOne);
-        ValueLine(
-            symbols_.Two, "Center - Radius", parts,
-            [](const PrintedList& n, int) -> PrintedList {
-                return {{n[0].Text + " - " + n[1].Text, n[0].Value - n[1].Value}};
-            },
-            state_.PrincipalTwo);
+        const Expression centre = Value(state_.CircleCentre), radius = Value(state_.CircleRadius);
+        ValueLine(symbols_.One, "Center + Radius", {centre + radius}, state_.PrincipalOne);
+        ValueLine(symbols_.Two, "Center - Radius", {centre - radius}, state_.PrincipalTwo);
     }
 
     void ExplainAngle()
@@ -202,16 +157,10 @@ class MohrExplanation {
         if (half_ == 0)
             text_.Line("The half difference is 0, so that the radius to the first point stands "
                        "upright: the double angle is " +
-                       Degrees(90) + ".");
+                       kDegrees(90) + ".");
         else
             ExplainAcute();
-        const double twice = 2 * std::abs(turn);
-        AngleLine(
-            "Theta p", "Double angle ÷ 2", {{twice, kDegreeMask, "°"}},
-            [](const PrintedList& n, int) -> PrintedList {
-                return {{n[0].Text + " ÷ 2", n[0].Value / 2}};
-            },
-            std::abs(turn));
+        AngleLine("Theta p", "Double angle ÷ 2", Number(2 * std::abs(turn), kDegrees) / 2);
         text_.Line("An angle on the circle is twice the angle on the element, in the same sense.");
         text_.Sentence("The axis of " + symbols_.One + " is found at " +
                        TurnText(PrincipalDirection(state_)) + " from the " + FirstAxis() + ".");
@@ -220,34 +169,20 @@ class MohrExplanation {
     void ExplainAcute()
     {
         const double acute = std::atan(std::abs(state_.TauXY / half_)) / kDegree;
-        const std::vector<Operand> sides{Value(std::abs(state_.TauXY)), Value(std::abs(half_))};
-        AngleLine(
-            "Acute angle", "atan(|" + symbols_.Shear + "| ÷ |Half difference|)", sides,
-            [](const PrintedList& n, int) -> PrintedList {
-                return {{"atan(" + n[0].Text + " ÷ " + n[1].Text + ")",
-                         std::atan(n[0].Value / n[1].Value) / kDegree}};
-            },
-            acute);
+        AngleLine("Acute angle", "atan(|" + symbols_.Shear + "| ÷ |Half difference|)",
+                  Atan(Value(std::abs(state_.TauXY)) / Value(std::abs(half_))));
         if (half_ > 0)
             return void(text_.Line("The half difference is positive: this is the double angle."));
-        AngleLine(
-            "Double angle", Degrees(180) + " - Acute angle", {{acute, kDegreeMask, "°"}},
-            [](const PrintedList& n, int) -> PrintedList {
-                return {{Degrees(180) + " - " + n[0].Text, 180 - n[0].Value}};
-            },
-            180 - acute);
+        AngleLine("Double angle", kDegrees(180) + " - Acute angle",
+                  Number(180, kDegrees) - Number(acute, kDegrees));
     }
 
     void ExplainMaxShear()
     {
         text_.Heading("Maximum shear in the plane");
         if (IsStrain(entry_.Mode))
-            ShearLine(
-                symbols_.MaxShear, "2 × Radius", {Strain(state_.CircleRadius)},
-                [](const PrintedList& n, int) -> PrintedList {
-                    return {{"2 × " + n[0].Text, 2 * n[0].Value}};
-                },
-                state_.CircleRadius);
+            ShearLine(symbols_.MaxShear, "2 × Radius", 2 * Strain(state_.CircleRadius),
+                      state_.CircleRadius);
         else
             text_.Line(symbols_.MaxShear + " = Radius = " + ShownWithUnit(state_.CircleRadius));
         if (entry_.Mode == MohrMode::MomentOfInertia) return;
@@ -268,20 +203,11 @@ class MohrExplanation {
                    "value, " +
                    Shown(greatest) + " and " + Shown(least) + ": " + Governing() + ".");
         if (IsStrain(entry_.Mode))
-            ShearLine(
-                symbols_.AbsMaxShear, "Greatest - least", {Strain(greatest), Strain(least)},
-                [](const PrintedList& n, int) -> PrintedList {
-                    return {{n[0].Text + " - " + n[1].Text, n[0].Value - n[1].Value}};
-                },
-                state_.AbsMaxShear);
+            ShearLine(symbols_.AbsMaxShear, "Greatest - least", Strain(greatest) - Strain(least),
+                      state_.AbsMaxShear);
         else
-            ValueLine(
-                symbols_.AbsMaxShear, "(Greatest - least) ÷ 2", {Value(greatest), Value(least)},
-                [](const PrintedList& n, int) -> PrintedList {
-                    return {{"(" + n[0].Text + " - " + n[1].Text + ") ÷ 2",
-                             (n[0].Value - n[1].Value) / 2}};
-                },
-                state_.AbsMaxShear);
+            ValueLine(symbols_.AbsMaxShear, "(Greatest - least) ÷ 2",
+                      {(Value(greatest) - Value(least)) / 2}, state_.AbsMaxShear);
     }
 
     [[nodiscard]] std::string Governing() const
@@ -303,12 +229,7 @@ class MohrExplanation {
         text_.Heading("State at the chosen angle");
         text_.Sentence("Theta is the angle from the " + FirstAxis() +
                        ", counterclockwise positive.");
-        AngleLine(
-            "2 × Theta", "", {{degrees, kRotationMask, "°"}},
-            [](const PrintedList& n, int) -> PrintedList {
-                return {{"2 × " + n[0].Text, 2 * n[0].Value}};
-            },
-            2 * degrees);
+        AngleLine("2 × Theta", "", 2 * Number(degrees, kRotation));
         ExplainNormal(std::string(names[0]), 1, turned.NormalX, shown[0]);
         ExplainNormal(std::string(names[1]), -1, turned.NormalY, shown[1]);
         ExplainRotatedShear(std::string(names[2]), turned.ShearXY, shown[2]);
@@ -318,55 +239,33 @@ class MohrExplanation {
     {
         const std::string first = side > 0 ? " + " : " - ";
         const std::string second = side > 0 ? " - " : " + ";
-        ValueLine(
-            name,
-            "Center" + first + "Half difference × cos(2 × Theta)" + second + symbols_.Shear +
-                " × sin(2 × Theta)",
-            TurnOperands(),
-            [first, second, side](const PrintedList& n, int) -> PrintedList {
-                const double twice = n[3].Value * kDegree;
-                return {{n[0].Text + first + n[1].Text + " × cos" + Argument(n[3]) + second +
-                             n[2].Text + " × sin" + Argument(n[3]),
-                         n[0].Value +
-                             side * (n[1].Value * std::cos(twice) - n[2].Value * std::sin(twice))}};
-            },
-            exact);
+        const Expression centre = Value(state_.CircleCentre);
+        const Expression a = Value(half_) * Cos(Twice()), b = Value(state_.TauXY) * Sin(Twice());
+        ValueLine(name,
+                  "Center" + first + "Half difference × cos(2 × Theta)" + second + symbols_.Shear +
+                      " × sin(2 × Theta)",
+                  {side > 0 ? centre + a - b : centre - a + b}, exact);
         text_.Line("Shown as " + shown + ".");
     }
 
     void ExplainRotatedShear(const std::string& name, double exact, const std::string& shown)
     {
         const bool strain = IsStrain(entry_.Mode);
-        const std::string factor = strain ? "2 × (" : "";
-        const std::string close = strain ? ")" : "";
-        std::vector<Operand> operands = TurnOperands();
-        operands[1] = Strain(half_);
-        operands[2] = Strain(state_.TauXY);
-        ShearLine(
-            name,
-            factor + "-Half difference × sin(2 × Theta) - " + symbols_.Shear + " × cos(2 × Theta)" +
-                close,
-            operands,
-            [factor, close, strain](const PrintedList& n, int) -> PrintedList {
-                const double twice = n[3].Value * kDegree;
-                return {{factor + "-" + n[1].Text + " × sin" + Argument(n[3]) + " - " + n[2].Text +
-                             " × cos" + Argument(n[3]) + close,
-                         (strain ? 2 : 1) *
-                             (-n[1].Value * std::sin(twice) - n[2].Value * std::cos(twice))}};
-            },
-            exact);
+        const std::string symbols =
+            "-Half difference × sin(2 × Theta) - " + symbols_.Shear + " × cos(2 × Theta)";
+        const Expression putIn =
+            -Strain(half_) * Sin(Twice()) - Strain(state_.TauXY) * Cos(Twice());
+        ShearLine(name, strain ? "2 × (" + symbols + ")" : symbols, strain ? 2 * putIn : putIn,
+                  exact);
         text_.Line("Shown as " + shown +
                    (entry_.Mode == MohrMode::MomentOfInertia
                         ? "; by this formula the product counts opposite to Iyz."
                         : "; positive turns the face counterclockwise."));
     }
 
-    [[nodiscard]] std::vector<Operand> TurnOperands() const
+    [[nodiscard]] Expression Twice() const
     {
-        return {Value(state_.CircleCentre),
-                Value(half_),
-                Value(state_.TauXY),
-                {2 * state_.RotationAngle / kDegree, kRotationMask, "°"}};
+        return Number(2 * state_.RotationAngle / kDegree, kRotation);
     }
     [[nodiscard]] std::string FirstAxis() const
     {
@@ -377,7 +276,7 @@ class MohrExplanation {
     const StressState& state_;
     const MohrEntry& entry_;
     Symbols symbols_;
-    std::string_view mask_;
+    NumberStyle style_;
     std::string_view unit_;
     double half_;
     Narration text_;
