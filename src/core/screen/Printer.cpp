@@ -7,6 +7,8 @@
 #include <QPainter>
 #include <QPrinter>
 
+#include <algorithm>
+
 namespace forcelab::screen {
 
 namespace {
@@ -42,6 +44,19 @@ double Printer::Width() const
 double Printer::Height() const
 {
     return Ready() ? it_->Device->height() * kPixelsPerInch / it_->Device->logicalDpiY() : 0;
+}
+
+QRectF Printer::Inside(double inches) const
+{
+    const QRectF whole(0, 0, Width(), Height());
+    if (!Ready()) return whole;
+    const QMarginsF edges = it_->Device->pageLayout().margins(QPageLayout::Inch);
+    const auto margin = [inches](double edge, double size) {
+        return std::clamp((inches - edge) * kPixelsPerInch, 0.0, size / 3);
+    };
+    return whole -
+           QMarginsF(margin(edges.left(), whole.width()), margin(edges.top(), whole.height()),
+                     margin(edges.right(), whole.width()), margin(edges.bottom(), whole.height()));
 }
 
 std::unique_ptr<PainterPicture> Printer::Area(double left, double top, double width, double height)

@@ -22,6 +22,9 @@ class Printer {
     [[nodiscard]] bool Ready() const; ///< False where the device cannot be drawn on
     [[nodiscard]] double Width() const;
     [[nodiscard]] double Height() const;
+    /// The part of the page that keeps a margin, in inches, from the edges of the paper; a third of
+    /// what can be printed remains of the smallest paper.
+    [[nodiscard]] QRectF Inside(double inches) const;
     /// A picture of its own in a part of the current page.
     std::unique_ptr<PainterPicture> Area(double left, double top, double width, double height);
     void NewPage();

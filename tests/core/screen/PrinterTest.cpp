@@ -53,6 +53,21 @@ TEST_F(Printing, APrinterThatCannotBeDrawnOnIsReported)
     EXPECT_EQ(AskForPrinter(nullptr), nullptr);
 }
 
+TEST_F(Printing, AMarginIsKeptFromTheEdgesOfThePaper)
+{
+    auto writer = std::make_unique<QPdfWriter>(path_);
+    writer->setPageSize(QPageSize(QPageSize::Letter));
+    writer->setPageMargins(QMarginsF(0.25, 0.5, 1.5, 0.5), QPageLayout::Inch);
+    const Printer printer(std::move(writer));
+    const QRectF room = printer.Inside(1);
+    EXPECT_NEAR(room.left(), 0.75 * 96, 0.5);
+    EXPECT_NEAR(room.top(), 0.5 * 96, 0.5);
+    EXPECT_NEAR(room.width(), (8.5 - 1 - 1.5) * 96, 1); // the printer's own margin is larger
+    EXPECT_NEAR(room.height(), (11 - 2) * 96, 1);
+    EXPECT_NEAR(printer.Inside(99).height(), 10 * 96 / 3.0, 1);
+    EXPECT_GT(printer.Inside(99).width(), 0);
+}
+
 TEST_F(Printing, ThePageIsMeasuredInPixelsInsideTheMargins)
 {
     const auto printer = OnA4();

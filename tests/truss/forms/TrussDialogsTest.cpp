@@ -205,29 +205,68 @@ TEST_F(TrussDialogs, AreaThatCannotBeReadLeavesTheOneOfBefore)
     EXPECT_FALSE(Messages->Shown.empty());
 }
 
-TEST_F(TrussDialogs, PrintsThePictureAndTheTable)
+/// Prints the picture alone, then from the stress form the table too.
+class TrussPrinting : public TrussFormTest {
+  protected:
+    QByteArray Print(bool table)
+    {
+        Printers->PdfFile = folder_.filePath(QStringLiteral("page.pdf"));
+        if (table) {
+            WhileModal("frmTrussStress", "frmTruss", [this] {
+                Trigger("mnuPrintStress");
+                Trigger("mnuBack");
+            });
+            Trigger("mnuTrussStress");
+        } else {
+            Trigger("mnuPrintResults");
+        }
+        QFile file(Printers->PdfFile);
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        return file.readAll();
+    }
+    static qsizetype PagesOf(const QByteArray& pdf) { return pdf.count("/Type /Page\n"); }
+
+  private:
+    QTemporaryDir folder_;
+};
+
+TEST_F(TrussPrinting, CancelPrintsNothing)
 {
-    const QTemporaryDir folder;
     DrawTriangle();
     Click("cmdSpacing(1)");
-    Trigger("mnuPrintResults"); // cancelled
-    EXPECT_EQ(Printers->Asked, 1);
-    Printers->PdfFile = folder.filePath("picture.pdf");
     Trigger("mnuPrintResults");
-    Printers->PdfFile = folder.filePath("table.pdf");
-    WhileModal("frmTrussStress", "frmTruss", [this] {
-        Trigger("mnuPrintStress");
-        Trigger("mnuBack");
-    });
-    Trigger("mnuTrussStress");
-    const auto bytes = [&](const char* name) {
-        QFile file(folder.filePath(name));
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name;
-        const QByteArray content = file.readAll();
-        EXPECT_TRUE(content.startsWith("%PDF")) << name;
-        return content.size();
-    };
-    EXPECT_GT(bytes("table.pdf"), bytes("picture.pdf"));
+    EXPECT_EQ(Printers->Asked, 1);
+    EXPECT_TRUE(IsEnabled("mnuPrintResults"));
+}
+
+TEST_F(TrussPrinting, AShortTableStandsBelowThePicture)
+{
+    DrawTriangle();
+    Click("cmdSpacing(1)");
+    const QByteArray picture = Print(false);
+    const QByteArray both = Print(true);
+    EXPECT_TRUE(picture.startsWith("%PDF"));
+    EXPECT_EQ(PagesOf(picture), 1);
+    EXPECT_EQ(PagesOf(both), 1);
+    EXPECT_GT(both.size(), picture.size());
+}
+
+TEST_F(TrussPrinting, ALongTableGoesOnToFurtherPages)
+{
+    LayGrid(24, 1);
+    std::vector<std::pair<Place, Place>> members{{{240, 0}, {240, 10}}};
+    for (double x = 0; x < 240; x += 10)
+        members.insert(members.end(), {{{x, 0}, {x, 10}},
+                                       {{x, 0}, {x + 10, 0}},
+                                       {{x, 10}, {x + 10, 10}},
+                                       {{x, 0}, {x + 10, 10}}});
+    DrawMembers(members);
+    Support({0, 0}, true, true);
+    Support({240, 0}, false, true);
+    Load({120, 10}, {120, 5}, "100");
+    Click("cmdSpacing(1)");
+    EXPECT_EQ(PagesOf(Print(false)), 1);
+    EXPECT_EQ(PagesOf(Print(true)), 3);
 }
 
 } // namespace
