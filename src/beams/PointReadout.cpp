@@ -84,7 +84,7 @@ void CalculatePoint(PointReadout& point, const BeamRecord& beam, const DiagramUn
     const double typed = Finite(StringValue(point.XText) * LengthFactor(units.Length));
     const double x = std::clamp(typed, 0.0, beam.BeamLength);
     PointReadout result = point;
-    if (x != typed) result.XText = Format(x / LengthFactor(units.Length), kBarMask);
+    if (x != typed) result.XText = PointText(x, units);
     BeamReactions reactions;
     CalculateReactions(beam, reactions);
     const int loadCase = point.SlopeView ? SlopeDeflectionCase(beam) : ShearMomentCase(beam);
@@ -146,6 +146,11 @@ int PointBarValue(double x, const BeamRecord& beam, const DiagramUnits& units)
 std::string PointBarText(int value, const BeamRecord& beam, const DiagramUnits& units)
 {
     return Format(value / PointStepOf(beam, units), kBarMask);
+}
+
+std::string PointText(double x, const DiagramUnits& units)
+{
+    return Format(x / LengthFactor(units.Length), kBarMask);
 }
 
 std::string PointClickText(double x, const DiagramUnits& units)

@@ -67,6 +67,8 @@ int PointBarEnd(const BeamRecord& beam, const DiagramUnits& units);
 int PointBarValue(double x, const BeamRecord& beam, const DiagramUnits& units);
 /// The text of txtSpecificPoint for a place of the bar; mask "###,##0.00#".
 std::string PointBarText(int value, const BeamRecord& beam, const DiagramUnits& units);
+/// The text of txtSpecificPoint for an x in inches; mask "###,##0.00#".
+std::string PointText(double x, const DiagramUnits& units);
 /// The text for a click on the beam at x inches; mask "#,###,##0.00".
 std::string PointClickText(double x, const DiagramUnits& units);
 
