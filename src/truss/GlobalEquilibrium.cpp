@@ -43,11 +43,11 @@ Outside Collect(const TrussModel& model, const TrussResults& results)
     return outside;
 }
 
-std::vector<Product> SumAlong(bool upright, const OuterForces& forces, std::string_view mask)
+SignedTerms SumAlong(bool upright, const OuterForces& forces, NumberStyle style)
 {
-    std::vector<Product> sum;
+    SignedTerms sum;
     for (const OuterForce& force : forces)
-        if (force.Upright == upright) sum.push_back({{force.Value, mask}});
+        if (force.Upright == upright) sum.push_back(SignedNumber(force.Value, style));
     return sum;
 }
 
@@ -64,30 +64,19 @@ void DropNoise(OuterForces& reactions)
 
 /// Moments about a point, counterclockwise positive: arm times upright force, less height times
 /// level force. A force through the point is left out.
-std::vector<Product> Moments(double x, double y, const OuterForces& forces, std::string_view mask)
+SignedTerms Moments(double x, double y, const OuterForces& forces, NumberStyle style)
 {
-    std::vector<Product> sum;
+    SignedTerms sum;
     for (const OuterForce& force : forces) {
         const double arm = force.Upright ? force.X - x : y - force.Y;
-        if (arm != 0) sum.push_back({{arm, kLengthMask}, {force.Value, mask}});
+        if (arm != 0) sum.push_back(SignedProduct(arm, kLength, force.Value, style));
     }
     return sum;
 }
 
-void Append(std::vector<Product>& sum, const std::vector<Product>& more)
+void Append(SignedTerms& sum, const SignedTerms& more)
 {
     sum.insert(sum.end(), more.begin(), more.end());
-}
-
-double SizeOf(const std::vector<Product>& sum)
-{
-    double size = 0;
-    for (const Product& product : sum) {
-        double one = 1;
-        for (const Factor& factor : product) one *= factor.Value;
-        size += std::abs(one);
-    }
-    return size;
 }
 
 /// The one reaction that has its axis for itself, and the two of the other axis.
@@ -115,17 +104,17 @@ std::string AxisSum(bool upright)
 void ExplainByForces(Narration& text, const Outside& outside, const OuterForce& wanted,
                      const OuterForces& others)
 {
-    Working working{SumAlong(wanted.Upright, outside.Loads, kLoadMask), {}, true};
-    Append(working.Sum, SumAlong(wanted.Upright, others, kForceMask));
+    SignedTerms sum = SumAlong(wanted.Upright, outside.Loads, kLoad);
+    Append(sum, SumAlong(wanted.Upright, others, kForce));
     const std::string what = others.empty() ? "" : " and " + others.front().Name;
-    if (working.Sum.empty()) {
+    if (sum.empty()) {
         text.Line(AxisSum(wanted.Upright) + ": no load acts along " + wanted.Name +
                   ", which is therefore zero.");
         return;
     }
     text.Line(AxisSum(wanted.Upright) + " of the whole truss: " + wanted.Name +
               " balances the loads" + what + ".");
-    text.Line(WorkedLine(wanted.Name, "", working, kForceMask));
+    text.Line(WriteLine({wanted.Name, "", {-SumOf(sum)}, kForce}));
 }
 
 /// The second reaction of its axis, by moments about the point that the other two pass through.
@@ -135,27 +124,29 @@ void ExplainByMoments(Narration& text, const Outside& outside, const ThreeReacti
     const double x = wanted.Upright ? three.First.X : three.Single.X;
     const double y = wanted.Upright ? three.Single.Y : three.First.Y;
     const double arm = wanted.Upright ? wanted.X - x : y - wanted.Y;
-    text.Line("Moments about (" + PrintNumber(x, kLengthMask) + "; " + PrintNumber(y, kLengthMask) +
+    text.Line("Moments about (" + kLength(x) + "; " + kLength(y) +
               "), counterclockwise positive: " + three.Single.Name + " and " + three.First.Name +
               " pass through this point.");
-    const Working moment{Moments(x, y, outside.Loads, kLoadMask), {}, true};
-    if (moment.Sum.empty()) {
+    const SignedTerms moments = Moments(x, y, outside.Loads, kLoad);
+    if (moments.empty()) {
         text.Line("No load has a moment about it: " + wanted.Name + " is zero.");
         return;
     }
-    const Working working{moment.Sum, {{{arm, kLengthMask}}}, true};
-    text.Line(WorkedLine(wanted.Name, "-(moment of the loads) ÷ arm", working,
-                         CommonMask(working.Exact(), wanted.Value)));
+    const Expression working = -SumOf(moments) / Number(arm, kLength);
+    text.Line(WriteLine({wanted.Name,
+                         "-(moment of the loads) ÷ arm",
+                         {working},
+                         CommonStyle(working.Unrounded().Value, wanted.Value)}));
 }
 
-void CheckSum(Narration& text, const std::string& name, const std::vector<Product>& sum)
+void CheckSum(Narration& text, const std::string& name, const SignedTerms& sum)
 {
     constexpr double kSinglePrecision = 1e-6;
     if (sum.empty()) return void(text.Line(name + ": nothing acts here."));
-    const Working working{sum, {}, false};
+    const Printed exact = SumOf(sum).Unrounded();
     // What single precision leaves of large numbers does not count.
-    const double rest = std::max(std::abs(working.Exact()), kSinglePrecision * SizeOf(sum));
-    text.Line(WorkedLine(name, "", working, RestMask(rest)));
+    const double rest = std::max(std::abs(exact.Value), kSinglePrecision * exact.Size);
+    text.Line(WriteLine({name, "", {SumOf(sum)}, RestStyle(rest)}));
 }
 
 } // namespace
@@ -189,12 +180,12 @@ void ExplainGlobalChecks(Narration& text, const TrussModel& model, const TrussRe
     Outside outside = Collect(model, results);
     DropNoise(outside.Reactions);
     for (const bool upright : {false, true}) {
-        auto sum = SumAlong(upright, outside.Loads, kLoadMask);
-        Append(sum, SumAlong(upright, outside.Reactions, kForceMask));
+        auto sum = SumAlong(upright, outside.Loads, kLoad);
+        Append(sum, SumAlong(upright, outside.Reactions, kForce));
         CheckSum(text, AxisSum(upright), sum);
     }
-    auto moments = Moments(0, 0, outside.Loads, kLoadMask);
-    Append(moments, Moments(0, 0, outside.Reactions, kForceMask));
+    auto moments = Moments(0, 0, outside.Loads, kLoad);
+    Append(moments, Moments(0, 0, outside.Reactions, kForce));
     CheckSum(text, "Sum of moments about (0; 0)", moments);
 }
 

@@ -87,12 +87,13 @@ class TrussExplanation {
             const double dy = static_cast<double>(b.Y) - a.Y;
             if (dx == 0 || dy == 0) continue;
             const std::string& name = results_.MemberName[m];
-            text_.Line(LengthLine(name, dx, dy));
-            for (const auto& [axis, run] : {std::pair{"x", dx}, {"y", dy}})
-                text_.Line(WorkedLine(
-                    name + axis, "",
-                    {{{{std::abs(run), kLengthMask}}}, {{{std::hypot(dx, dy), kForceMask}}}, false},
-                    "0.0000"));
+            const Expression run = Number(std::abs(dx), kLength);
+            const Expression rise = Number(std::abs(dy), kLength);
+            const Expression length = Number(std::hypot(dx, dy), kForce);
+            text_.Line(WriteLine(
+                {"Length " + name, "", {Root(Raised(run, 2) + Raised(rise, 2))}, kForce}));
+            for (const auto& [axis, along] : {std::pair{"x", run}, {"y", rise}})
+                text_.Line(WriteLine({name + axis, "", {along / length}, kComponent}));
         }
     }
 
@@ -142,17 +143,17 @@ class TrussExplanation {
     }
 
     /// What a force adds along an axis: the force itself, or a member's component of it.
-    static Product TermOf(const JointForce& force, int axis)
+    static SignedTerm TermOf(const JointForce& force, int axis)
     {
-        const Factor size{force.Size, force.Name.empty() ? kLoadMask : kForceMask};
-        if (std::abs(Along(force, axis)) == 1)
-            return {{Along(force, axis) * force.Size, size.Mask}};
-        return {{Along(force, axis), kCosineMask}, size};
+        const double along = Along(force, axis);
+        const NumberStyle style = force.Name.empty() ? kLoad : kForce;
+        if (std::abs(along) == 1) return SignedNumber(along * force.Size, style);
+        return SignedProduct(along, kCosine, force.Size, style);
     }
 
-    [[nodiscard]] std::vector<Product> Terms(const std::vector<JointForce>& forces, int axis) const
+    [[nodiscard]] SignedTerms Terms(const std::vector<JointForce>& forces, int axis) const
     {
-        std::vector<Product> sum;
+        SignedTerms sum;
         for (const JointForce& force : forces)
             if (Along(force, axis) != 0 && std::abs(force.Size) > kNothing * largest_)
                 sum.push_back(TermOf(force, axis));
@@ -176,7 +177,7 @@ class TrussExplanation {
     {
         const auto known = Terms(step.Known, axis);
         const std::string p = std::string("P") + kAxis[axis];
-        if (!known.empty()) text_.Line(WorkedLine(p, "", {known, {}, false}, kForceMask));
+        if (!known.empty()) text_.Line(WriteLine({p, "", {SumOf(known)}, kForce}));
         std::string equation;
         const auto append = [&equation](bool minus, const std::string& term) {
             equation += equation.empty() ? (minus ? "-" : "") : (minus ? " - " : " + ");
@@ -194,17 +195,17 @@ class TrussExplanation {
     static std::string UnknownTerm(const JointForce& force, int axis)
     {
         const double size = std::abs(Along(force, axis));
-        return size == 1 ? force.Name : Times(PrintNumber(size, kCosineMask), force.Name);
+        return size == 1 ? force.Name : Times(kCosine(size), force.Name);
     }
 
     [[nodiscard]] double KnownSum(const JointStep& step, int axis) const
     {
-        return Working{Terms(step.Known, axis), {}, false}.Exact();
+        return SumOf(Terms(step.Known, axis)).Unrounded().Value;
     }
 
-    void Conclude(const JointForce& unknown, const Working& working)
+    void Conclude(const JointForce& unknown, const Expression& working)
     {
-        std::string line = WorkedLine(unknown.Name, "", working, kForceMask);
+        std::string line = WriteLine({unknown.Name, "", {working}, kForce});
         if (unknown.IsMember) {
             const bool none = std::abs(unknown.Size) <= kZeroForce;
             line += none ? " (zero-force member)" : unknown.Size > 0 ? " (T)" : " (C)";
@@ -216,19 +217,16 @@ class TrussExplanation {
     void SolveAlong(const JointStep& step, const JointForce& unknown, const JointForce* solved,
                     int axis)
     {
-        Working working{{}, {}, true};
+        SignedTerms sum;
         if (!Terms(step.Known, axis).empty())
-            working.Sum.push_back({{KnownSum(step, axis), kForceMask}});
+            sum.push_back(SignedNumber(KnownSum(step, axis), kForce));
         if (solved && std::abs(Along(*solved, axis)) >= kAcross)
-            working.Sum.push_back(TermOf(*solved, axis));
-        if (Along(unknown, axis) == -1)
-            working.Negated = false;
-        else if (Along(unknown, axis) != 1)
-            working.Divisor = {{{Along(unknown, axis), kCosineMask}}};
-        if (working.Sum.empty())
-            text_.Line(unknown.Name + " is zero: nothing else acts along this axis.");
-        else
-            Conclude(unknown, working);
+            sum.push_back(TermOf(*solved, axis));
+        if (sum.empty())
+            return void(text_.Line(unknown.Name + " is zero: nothing else acts along this axis."));
+        const double along = Along(unknown, axis);
+        if (std::abs(along) == 1) return Conclude(unknown, along < 0 ? SumOf(sum) : -SumOf(sum));
+        Conclude(unknown, -SumOf(sum) / Number(along, kCosine));
     }
 
     static int StrongerAxis(const JointForce& force)
@@ -263,13 +261,14 @@ class TrussExplanation {
     {
         const JointForce& a = step.Unknown[0];
         const JointForce& b = step.Unknown[1];
-        const Factor px{KnownSum(step, 0), kForceMask};
-        const Factor py{KnownSum(step, 1), kForceMask};
-        const auto cosine = [](double value) { return Factor{value, kCosineMask}; };
+        const auto product = [](double cosine, double other, NumberStyle style) {
+            return SignedProduct(cosine, kCosine, other, style);
+        };
         text_.Line("Both equations hold both unknowns; " + b.Name + " is eliminated between them.");
-        Conclude(a, {{{cosine(b.CosX), py}, {cosine(-b.SinY), px}},
-                     {{cosine(a.CosX), cosine(b.SinY)}, {cosine(-a.SinY), cosine(b.CosX)}},
-                     false});
+        Conclude(a,
+                 SumOf({product(b.CosX, KnownSum(step, 1), kForce),
+                        product(-b.SinY, KnownSum(step, 0), kForce)}) /
+                     SumOf({product(a.CosX, b.SinY, kCosine), product(-a.SinY, b.CosX, kCosine)}));
         SolveAlong(step, b, &a, StrongerAxis(b));
     }
 
@@ -277,9 +276,11 @@ class TrussExplanation {
     {
         const auto terms = Terms(forces, axis);
         if (terms.empty()) return;
-        const Working working{terms, {}, false};
-        text_.Line(WorkedLine(std::string("Check: Sum F") + kAxis[axis], "", working,
-                              RestMask(working.Exact())));
+        const Expression sum = SumOf(terms);
+        text_.Line(WriteLine({std::string("Check: Sum F") + kAxis[axis],
+                              "",
+                              {sum},
+                              RestStyle(sum.Unrounded().Value)}));
     }
 
     void ExplainCheck(const std::vector<JointForce>& forces)

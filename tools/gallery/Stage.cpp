@@ -9,6 +9,7 @@
 #include <QKeyEvent>
 #include <QListWidget>
 #include <QScrollBar>
+#include <QSpinBox>
 
 #include <cstdio>
 
@@ -140,6 +141,7 @@ void SetText(QWidget& widget, const std::string& text)
 {
     if (auto* box = qobject_cast<QLineEdit*>(&widget)) return box->setText(Q(text));
     if (auto* label = qobject_cast<QLabel*>(&widget)) return label->setText(Q(text));
+    if (auto* box = qobject_cast<QSpinBox*>(&widget)) return box->setValue(std::stoi(text));
     if (auto* bar = qobject_cast<QScrollBar*>(&widget)) return bar->setValue(std::stoi(text));
     if (auto* list = qobject_cast<QListWidget*>(&widget)) return Pick(*list, text);
     Complain("no text on " + widget.objectName().toStdString());

@@ -9,7 +9,8 @@
 
 namespace forcelab::screen {
 
-/// A grid of text cells with fixed rows and columns at its top and left. The colour of a cell
+/// A grid of text cells with fixed rows and columns at its top and left, which stay where they are
+/// while the others scroll, as long as they leave half of the grid to them. The colour of a cell
 /// decides what can be edited: the owner asks CellColour.
 class FlexGrid : public QTableWidget {
   public:
@@ -27,14 +28,26 @@ class FlexGrid : public QTableWidget {
     void SetCellColour(int row, int column, const QColor& colour);
     void SetCellAlignment(int row, int column, Qt::Alignment alignment);
 
+    [[nodiscard]] QRect visualRect(const QModelIndex& index) const override;
+    [[nodiscard]] QModelIndex indexAt(const QPoint& place) const override;
+    void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;
+
     /// A character was typed, or a cell was double-clicked (13): the owner may call GridEditStart.
     std::function<void(int keyAscii)> OnKeyPress;
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void scrollContentsBy(int dx, int dy) override;
 
   private:
+    // Of the fixed rows and columns, pixels; 0 where they scroll with the others.
+    [[nodiscard]] int FrozenWidth() const;
+    [[nodiscard]] int FrozenHeight() const;
+    [[nodiscard]] bool IsScrolled() const;
+    void PaintFixed(QPainter& painter, int rows, int columns, const QRect& clip);
+    void PaintCell(QPainter& painter, const QModelIndex& index);
     [[nodiscard]] bool IsFixed(int row, int column) const;
     void StayInside();
     QTableWidgetItem& Cell(int row, int column);

@@ -52,7 +52,7 @@ double frmTruss::PrintPicture(screen::Printer& printer)
     DrawResults(*sheet, kMemberWidth, kJointWidth);
     sheet->ScaleToPixels();
     sheet->ForeColor = IndexedColour(0);
-    sheet->Box(0, 0, place.width() - 1, place.height() - 1);
+    sheet->Box(1, 1, place.width() - 1, place.height() - 1);
     return place.bottom();
 }
 
