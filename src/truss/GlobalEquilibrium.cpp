@@ -132,7 +132,7 @@ void ExplainByMoments(Narration& text, const Outside& outside, const ThreeReacti
         text.Line("No load has a moment about it: " + wanted.Name + " is zero.");
         return;
     }
-    const Expression working = -SumOf(moments) / Number(arm, kLength);
+    const Expression working = -Grouped(SumOf(moments)) / Number(arm, kLength);
     text.Line(WriteLine({wanted.Name,
                          "-(moment of the loads) ÷ arm",
                          {working},

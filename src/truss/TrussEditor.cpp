@@ -35,10 +35,11 @@ bool IsMode(int mode)
 }
 
 /// The stronger axis of a drag: a click without a drag points upward.
-void TakeDirection(DragState& drag, double x, double y)
+void TakeDirection(const TrussModel& model, DragState& drag, double x, double y)
 {
-    const double dx = x - drag.PressX;
-    const double dy = y - drag.PressY;
+    const GridPlace held = HoldToGrid(model, {x, y});
+    const double dx = held.X - drag.PressX;
+    const double dy = held.Y - drag.PressY;
     const bool upright = std::abs(dy) >= std::abs(dx);
     drag.DirX = upright ? 0 : (dx < 0 ? -1 : 1);
     drag.DirY = !upright ? 0 : (dy < 0 ? -1 : 1);
@@ -114,8 +115,9 @@ DragState PressPoint(const TrussModel& model, int mode, double x, double y, bool
     drag.DragStartPoint = drag.DragEndPoint = point;
     drag.DragX0 = drag.DragX1 = model.GridPoints[point].X;
     drag.DragY0 = drag.DragY1 = model.GridPoints[point].Y;
-    drag.PressX = x;
-    drag.PressY = y;
+    const GridPlace held = HoldToGrid(model, {x, y});
+    drag.PressX = held.X;
+    drag.PressY = held.Y;
     drag.DragActive = leftButton && IsMode(mode) && (!WantsJoint(mode) || model.IsJoint(point));
     return drag;
 }
@@ -126,7 +128,7 @@ void DragTo(const TrussModel& model, int mode, DragState& drag, double x, double
     drag.DragX1 = x;
     drag.DragY1 = y;
     if (!WantsJoint(mode)) return;
-    TakeDirection(drag, x, y);
+    TakeDirection(model, drag, x, y);
     const bool forLoad = mode == kCreateLoads || mode == kEraseLoads;
     const TrussScale scale = SetGridScale(model);
     drag.DragX1 = drag.DragX0 + drag.DirX * (forLoad ? scale.LoadArrowX : model.GridSpacingX / 2);
@@ -156,7 +158,7 @@ ReleaseOutcome ReleasePoint(TrussModel& model, int mode, DragState& drag, double
 {
     if (!std::exchange(drag.DragActive, false)) return {};
     drag.DragEndPoint = SnapToGrid(model, x, y);
-    TakeDirection(drag, x, y);
+    TakeDirection(model, drag, x, y);
     switch (mode) {
     case kCreateMembers:
         return {true, AddMember(model, drag.DragStartPoint, drag.DragEndPoint), {}};

@@ -49,7 +49,7 @@ struct DragState {
     int DragEndPoint = 0;
     double DragX0 = 0, DragY0 = 0; ///< the start's grid point
     double DragX1 = 0, DragY1 = 0; ///< end of the rubber band
-    double PressX = 0, PressY = 0; ///< where the button went down
+    double PressX = 0, PressY = 0; ///< where the button went down, held to the grid
     int DirX = 0, DirY = 0;        ///< of a drag along an axis: -1, 0 or 1
 };
 

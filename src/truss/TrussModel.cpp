@@ -28,11 +28,9 @@ double Margin(double extent, float spacing)
     return std::max(margin, (extent + 2 * margin) / kBorderShare);
 }
 
-int SnapOne(double value, int spaces, float spacing)
+double HoldOne(double value, int spaces, float spacing)
 {
-    const double held =
-        std::clamp(value, -kBorder * spacing, Extent(spaces, spacing) + kBorder * spacing);
-    return static_cast<int>(std::nearbyint(held / spacing)); // halves to even
+    return std::clamp(value, -kBorder * spacing, Extent(spaces, spacing) + kBorder * spacing);
 }
 
 bool IsUsable(double spacing)
@@ -96,10 +94,18 @@ TrussScale SetGridScale(const TrussModel& model)
     return scale;
 }
 
+GridPlace HoldToGrid(const TrussModel& model, GridPlace place)
+{
+    return {HoldOne(place.X, model.GridSpacesX, model.GridSpacingX),
+            HoldOne(place.Y, model.GridSpacesY, model.GridSpacingY)};
+}
+
 int SnapToGrid(const TrussModel& model, double x, double y)
 {
-    return model.PointAt(SnapOne(x, model.GridSpacesX, model.GridSpacingX),
-                         SnapOne(y, model.GridSpacesY, model.GridSpacingY));
+    const GridPlace held = HoldToGrid(model, {x, y});
+    const auto nearest = [](double share) { return static_cast<int>(std::nearbyint(share)); };
+    return model.PointAt(nearest(held.X / model.GridSpacingX),
+                         nearest(held.Y / model.GridSpacingY));
 }
 
 } // namespace forcelab::truss

@@ -82,8 +82,16 @@ struct TrussScale {
 };
 TrussScale SetGridScale(const TrussModel& model);
 
-/// The grid point nearest to a place in the picture, which is first held to within 0.45 of a
-/// spacing of the grid; halves go to the even point. The model must have a grid.
+/// A place in the picture, in the grid's unit.
+struct GridPlace {
+    double X = 0;
+    double Y = 0;
+};
+/// A place held to within 0.45 of a spacing of the grid.
+GridPlace HoldToGrid(const TrussModel& model, GridPlace place);
+
+/// The grid point nearest to a place in the picture, which is first held to the grid; halves go to
+/// the even point. The model must have a grid.
 int SnapToGrid(const TrussModel& model, double x, double y);
 
 } // namespace forcelab::truss

@@ -217,6 +217,21 @@ TEST_F(FrmTruss, MembersThatTouchBetweenTheirEndsAreSilentlyRefused)
     EXPECT_EQ(CurrentTruss.MemberCount, 1);
 }
 
+TEST_F(FrmTruss, ClicksWithoutADrag)
+{
+    DrawTriangle();
+    TrussGridPoint& top = CurrentTruss.GridPoints[CurrentTruss.PointAt(1, 1)];
+    Choose("optTrussDefine(0)");
+    Drag({0, 20}, {0, 20});
+    EXPECT_EQ(CurrentTruss.MemberCount, 3);
+    Choose("optTrussDefine(1)");
+    Drag({11, 10.5}, {11, 10.5});
+    EXPECT_EQ(top.SupportY, 1);
+    EXPECT_EQ(top.SupportX, 0);
+    Load({11, 10.5}, {11, 10.5}, "4");
+    EXPECT_EQ(top.LoadY, 4) << "upward, in place of the earlier load";
+}
+
 TEST_F(FrmTruss, OnlyTheLeftButtonDraws)
 {
     LayGrid(3, 3);
