@@ -76,6 +76,13 @@ bool Agrees(const WorkedLine& line, double exact, const Printed& printed)
            std::abs(printed.Value - exact) <= kNoise * printed.Size;
 }
 
+/// "-10.0" of "-10.000".
+bool IsResult(const std::string& form, const std::string& result)
+{
+    const auto number = NumberFromText(form);
+    return form == result || (number && number == NumberFromText(result));
+}
+
 /// All forms with the fewest places under which each amounts to the result.
 std::vector<Printed> PrintForms(const WorkedLine& line, double exact)
 {
@@ -199,6 +206,14 @@ Expression Atan(const Expression& ratio)
         "atan", [](double x) { return std::atan(x) / kDegree; }, ratio);
 }
 
+Expression Grouped(const Expression& inner)
+{
+    return Expression([inner](int more) {
+        const Printed x = inner.Print(more);
+        return Printed{"(" + x.Text + ")", x.Value, x.Size};
+    });
+}
+
 Expression Worked(const Expression& inner, NumberStyle style)
 {
     return Expression(
@@ -220,7 +235,7 @@ std::string WriteLine(const WorkedLine& line)
     std::string text = line.Name;
     if (!line.Symbols.empty()) text += MainModule::EqualsText + line.Symbols;
     for (const Printed& form : PrintForms(line, exact))
-        if (form.Text != result) text += MainModule::EqualsText + form.Text;
+        if (!IsResult(form.Text, result)) text += MainModule::EqualsText + form.Text;
     return text + MainModule::EqualsText + WithUnit(result, line.Unit);
 }
 

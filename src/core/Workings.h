@@ -61,6 +61,8 @@ Expression Root(const Expression& square);
 Expression Sin(const Expression& degrees);
 Expression Cos(const Expression& degrees);
 Expression Atan(const Expression& ratio);
+/// In parentheses though nothing asks for them, so that it stands out as a whole.
+Expression Grouped(const Expression& inner);
 /// The single number that the print of an expression amounts to.
 Expression Worked(const Expression& inner, NumberStyle style);
 /// "a + b + c"; 0 without terms.
@@ -70,7 +72,8 @@ Expression Sum(const std::vector<Expression>& terms);
 struct WorkedLine {
     std::string Name;
     std::string Symbols; ///< empty: left out
-    /// One or more forms with the numbers put in. One that prints as the result does is left out.
+    /// One or more forms with the numbers put in. A single number that is the result already is
+    /// left out.
     std::vector<Expression> PutIn;
     std::function<std::string(double)> Show; ///< how the result prints
     std::string Unit = "";

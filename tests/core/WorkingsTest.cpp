@@ -70,6 +70,7 @@ TEST(Workings, ParenthesesStandWhereTheOrderOfOperationsAsksForThem)
     EXPECT_EQ(Text(Raised(a - b, 3)), Local("(1.0 - 2.0)³"));
     EXPECT_EQ(Text(Raised(a, 1) * Raised(b, 4)), Local("1.0 × 2.0⁴"));
     EXPECT_EQ(Text(Raised(a * b, 2)), Local("(1.0 × 2.0)²"));
+    EXPECT_EQ(Text(-Grouped(a * b)), Local("-(1.0 × 2.0)"));
     EXPECT_EQ(Text(Raised(Raised(a, 2), 3)), Local("(1.0²)³"));
 }
 
@@ -119,6 +120,8 @@ TEST(WriteLine, LeavesOutASingleNumberThatIsTheResult)
     EXPECT_EQ(WriteLine({"C1", "-T", {N(-4.5)}, kPlain, "kN"}), Local("C1 = -T = -4.5 kN"));
     EXPECT_EQ(WriteLine({"C1", "", {Number(4.25, {"0.0##"})}, NumberStyle{"0.00"}}),
               Local("C1 = 4.25"));
+    EXPECT_EQ(WriteLine({"P", "", {N(-10)}, NumberStyle{"0.000"}}), Local("P = -10.000"));
+    EXPECT_EQ(WriteLine({"P", "", {-N(-10)}, kPlain}), Local("P = -(-10.0) = 10.0"));
 }
 
 TEST(WriteLine, AddsPlacesUntilThePrintGivesTheResult)
