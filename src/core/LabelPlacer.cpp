@@ -15,9 +15,13 @@ constexpr int kTurns = 8; // to each side, together the whole way round
 constexpr double kTurn = kPi / kTurns;
 constexpr double kTurnCost = 3;         // pixels of distance that a turn is worth
 constexpr double kCrossingCost = 60;    // the same for each line crossed
+constexpr double kStrikeCost = 120;     // the same for each label that the leader would cross
+constexpr double kLeaderCrossing = 25;  // the same for each line that it would cross
 constexpr double kSheetStep = 6;        // pixels, of the search over the whole sheet
 constexpr double kFarCost = 15;         // what leaving the neighbourhood is worth
+constexpr double kLeaderFree = 5;       // pixels from its point where it crosses nothing
 constexpr double kGap = 1.5;            // pixels between labels and to the sheet's edge
+constexpr double kSideGap = 6;          // between labels side by side, or they read as one
 constexpr double kLeaderFrom = 24;      // pixels
 constexpr double kSubscriptShare = 0.3; // of the text height, below and above the line
 constexpr double kSmallestFont = 6;     // points
@@ -36,11 +40,45 @@ bool Clip(double direction, double room, double& from, double& to)
     return from <= to;
 }
 
+/// True where a segment touches a rectangle, given by its bounds.
+template <typename Box>
+bool Touches(PicturePoint start, PicturePoint end, const Box& box)
+{
+    const double dx = end.X - start.X;
+    const double dy = end.Y - start.Y;
+    double from = 0;
+    double to = 1;
+    return Clip(-dx, start.X - box.X1, from, to) && Clip(dx, box.X2 - start.X, from, to) &&
+           Clip(-dy, start.Y - box.Y1, from, to) && Clip(dy, box.Y2 - start.Y, from, to);
+}
+
+/// Above 0 where c lies to one side of the line from a to b, below 0 on the other.
+double SideOf(PicturePoint a, PicturePoint b, PicturePoint c)
+{
+    return (b.X - a.X) * (c.Y - a.Y) - (b.Y - a.Y) * (c.X - a.X);
+}
+
+bool Cross(PicturePoint a, PicturePoint b, PicturePoint c, PicturePoint d)
+{
+    return SideOf(a, b, c) * SideOf(a, b, d) < 0 && SideOf(c, d, a) * SideOf(c, d, b) < 0;
+}
+
+template <typename Box>
+PicturePoint NearestOf(const Box& box, PicturePoint at)
+{
+    return {std::clamp(at.X, box.X1, box.X2), std::clamp(at.Y, box.Y1, box.Y2)};
+}
+
+bool NeedsLeader(PicturePoint at, PicturePoint near)
+{
+    return std::hypot(near.X - at.X, near.Y - at.Y) >= kLeaderFrom;
+}
+
 } // namespace
 
-void LabelPlacer::KeepOffLine(PicturePoint from, PicturePoint to)
+void LabelPlacer::KeepOffLine(PicturePoint from, PicturePoint to, double weight)
 {
-    lines_.push_back({pic_.ToPixels(from), pic_.ToPixels(to)});
+    lines_.push_back({pic_.ToPixels(from), pic_.ToPixels(to), weight});
 }
 
 void LabelPlacer::KeepOffCircle(PicturePoint centre, double radius)
@@ -78,37 +116,54 @@ bool LabelPlacer::IsFree(const Box& box) const
         box.Y2 > pic_.HeightPixels() - kGap)
         return false;
     return std::none_of(taken_.begin(), taken_.end(), [&box](const Box& other) {
-        return box.X1 < other.X2 + kGap && other.X1 < box.X2 + kGap && box.Y1 < other.Y2 + kGap &&
-               other.Y1 < box.Y2 + kGap;
+        return box.X1 < other.X2 + kSideGap && other.X1 < box.X2 + kSideGap &&
+               box.Y1 < other.Y2 + kGap && other.Y1 < box.Y2 + kGap;
     });
 }
 
-int LabelPlacer::Crossings(const Box& box, int atMost) const
+double LabelPlacer::Crossings(const Box& box, double atMost) const
 {
-    int count = 0;
+    double count = 0;
     for (const Segment& line : lines_) {
-        const double dx = line.To.X - line.From.X;
-        const double dy = line.To.Y - line.From.Y;
-        double from = 0;
-        double to = 1;
-        if (Clip(-dx, line.From.X - box.X1, from, to) && Clip(dx, box.X2 - line.From.X, from, to) &&
-            Clip(-dy, line.From.Y - box.Y1, from, to) && Clip(dy, box.Y2 - line.From.Y, from, to))
-            if (++count > atMost) break;
+        if (!Touches(line.From, line.To, box)) continue;
+        count += line.Weight;
+        if (count > atMost) break;
     }
     return count;
 }
 
-void LabelPlacer::Consider(std::optional<Found>& best, const Box& box, double cost) const
+/// A leader must not strike another label through, and had better cross no line on its way.
+double LabelPlacer::LeaderCost(PicturePoint at, const Box& box) const
 {
-    if ((best && cost >= best->Cost) || !IsFree(box)) return;
-    const int atMost = best ? static_cast<int>((best->Cost - cost) / kCrossingCost) : 1000;
-    const int crossings = Crossings(box, atMost);
-    const double whole = cost + kCrossingCost * crossings;
-    if (!best || whole < best->Cost) best = Found{box, whole, crossings, {}};
+    const PicturePoint near = NearestOf(box, at);
+    if (!NeedsLeader(at, near)) return 0;
+    double cost = 0;
+    for (const Box& other : taken_)
+        if (Touches(at, near, other)) cost += kStrikeCost;
+    // Past the lines on which the point itself lies.
+    const double share = kLeaderFree / std::hypot(near.X - at.X, near.Y - at.Y);
+    const PicturePoint start{at.X + share * (near.X - at.X), at.Y + share * (near.Y - at.Y)};
+    for (const Segment& line : lines_)
+        if (Cross(start, near, line.From, line.To)) cost += kLeaderCrossing * line.Weight;
+    return cost;
 }
 
-std::optional<LabelPlacer::Found> LabelPlacer::SearchNear(PicturePoint at, Size size,
-                                                          double angle) const
+void LabelPlacer::Consider(std::optional<Found>& best, const Box& box, double cost,
+                           const PicturePoint* at) const
+{
+    if ((best && cost >= best->Cost) || !IsFree(box)) return;
+    const double atMost = best ? (best->Cost - cost) / kCrossingCost : 1000;
+    const double crossings = Crossings(box, atMost);
+    double whole = cost + kCrossingCost * crossings;
+    if (best && whole >= best->Cost) return; // before the leader, which takes longer
+    const double leader = at ? LeaderCost(*at, box) : 0;
+    whole += leader;
+    if (!best || whole < best->Cost)
+        best = Found{box, whole, crossings, crossings == 0 && leader < kStrikeCost, {}};
+}
+
+std::optional<LabelPlacer::Found> LabelPlacer::SearchNear(PicturePoint at, Size size, double angle,
+                                                          bool leader) const
 {
     std::optional<Found> best;
     for (const double distance : kDistances)
@@ -122,7 +177,7 @@ std::optional<LabelPlacer::Found> LabelPlacer::SearchNear(PicturePoint at, Size 
             const double y = at.Y - up * (size.Height / 2 / longer + distance);
             const Box box{x - size.Width / 2, y - size.Height / 2, x + size.Width / 2,
                           y + size.Height / 2};
-            Consider(best, box, distance + kTurnCost * std::abs(turn));
+            Consider(best, box, distance + kTurnCost * std::abs(turn), leader ? &at : nullptr);
         }
     return best;
 }
@@ -135,7 +190,7 @@ std::optional<LabelPlacer::Found> LabelPlacer::SearchSheet(PicturePoint at, Size
             const Box box{x, y, x + size.Width, y + size.Height};
             const double dx = std::max({0.0, box.X1 - at.X, at.X - box.X2});
             const double dy = std::max({0.0, box.Y1 - at.Y, at.Y - box.Y2});
-            Consider(best, box, kFarCost + std::hypot(dx, dy));
+            Consider(best, box, kFarCost + std::hypot(dx, dy), &at);
         }
     return best;
 }
@@ -144,8 +199,8 @@ std::optional<LabelPlacer::Found> LabelPlacer::Search(const LabelAnchor& anchor,
                                                       bool mayLeave) const
 {
     const PicturePoint at = pic_.ToPixels(anchor.At);
-    std::optional<Found> best = SearchNear(at, size, anchor.Angle);
-    if (!best || (mayLeave && best->Crossings > 0)) {
+    std::optional<Found> best = SearchNear(at, size, anchor.Angle, mayLeave);
+    if (!best || (mayLeave && !best->Clear)) {
         const auto far = SearchSheet(at, size);
         if (far && (!best || far->Cost < best->Cost)) best = far;
     }
@@ -166,8 +221,8 @@ std::optional<LabelPlacer::Found> LabelPlacer::Best(const LabelWish& wish)
 
 void LabelPlacer::DrawLeader(PicturePoint at, const Box& box)
 {
-    const PicturePoint near{std::clamp(at.X, box.X1, box.X2), std::clamp(at.Y, box.Y1, box.Y2)};
-    if (std::hypot(near.X - at.X, near.Y - at.Y) < kLeaderFrom) return;
+    const PicturePoint near = NearestOf(box, at);
+    if (!NeedsLeader(at, near)) return;
     const PicturePoint from = pic_.FromPixels(at);
     const PicturePoint to = pic_.FromPixels(near);
     pic_.ForeColor = kLeaderColour;

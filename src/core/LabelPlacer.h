@@ -31,7 +31,9 @@ class LabelPlacer {
   public:
     explicit LabelPlacer(Picture& pic) : pic_(pic) {}
 
-    void KeepOffLine(PicturePoint from, PicturePoint to);
+    /// `weight` below 1: a line, such as a faint axis, that a label may rather stand on than move
+    /// far away.
+    void KeepOffLine(PicturePoint from, PicturePoint to, double weight = 1);
     void KeepOffCircle(PicturePoint centre, double radius);   ///< radius in units of x
     void Reserve(PicturePoint corner, PicturePoint opposite); ///< no label may touch this box
     /// Prints the label; False where it is left out. Keeps font, size and colour of the picture.
@@ -43,6 +45,7 @@ class LabelPlacer {
     };
     struct Segment {
         PicturePoint From, To; ///< pixels
+        double Weight = 1;
     };
     struct Size {
         double Width, Height; ///< pixels
@@ -50,15 +53,20 @@ class LabelPlacer {
     struct Found {
         Box Where;
         double Cost;
-        int Crossings;
+        double Crossings;     ///< each with the weight of its line
+        bool Clear;           ///< crosses nothing, nor does its leader strike a label
         PicturePoint Names{}; ///< pixels, the point beside which it stands
     };
 
     [[nodiscard]] Size SizeOf(const Label& label);
     [[nodiscard]] bool IsFree(const Box& box) const;
-    [[nodiscard]] int Crossings(const Box& box, int atMost) const;
-    void Consider(std::optional<Found>& best, const Box& box, double cost) const;
-    [[nodiscard]] std::optional<Found> SearchNear(PicturePoint at, Size size, double angle) const;
+    [[nodiscard]] double Crossings(const Box& box, double atMost) const;
+    [[nodiscard]] double LeaderCost(PicturePoint at, const Box& box) const;
+    /// Takes the box where it is better. `at` is the leader's start, where one may be drawn.
+    void Consider(std::optional<Found>& best, const Box& box, double cost,
+                  const PicturePoint* at) const;
+    [[nodiscard]] std::optional<Found> SearchNear(PicturePoint at, Size size, double angle,
+                                                  bool leader) const;
     [[nodiscard]] std::optional<Found> SearchSheet(PicturePoint at, Size size) const;
     [[nodiscard]] std::optional<Found> Search(const LabelAnchor& anchor, Size size,
                                               bool mayLeave) const;

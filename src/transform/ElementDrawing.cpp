@@ -25,6 +25,9 @@ constexpr double kTurnedAxisLength = 0.86;
 constexpr double kArcRadius = 0.74;
 constexpr double kUp = kPi / 2;
 constexpr double kNoAngle = 0.002; // radians
+constexpr double kLabelLean = 0.3; // radians, from an arrow's direction to its label
+// A label may rather stand on an axis than be led far away.
+constexpr Figure::Pen kAxisPen{kFaintColour, 1, LinePattern::Solid, 0.4};
 
 /// What one element shows. An empty text leaves its label out, a value of 0 its arrows.
 struct ElementView {
@@ -48,7 +51,7 @@ class ElementPicture {
     /// The square with its arrows.
     void DrawElement()
     {
-        DrawAxes(kFaintColour);
+        DrawAxes(kAxisPen);
         std::array<PicturePoint, 4> corners;
         for (int k = 0; k < 4; ++k)
             corners[k] = Polar({0, 0}, kHalfSide * std::sqrt(2.0), view_.Angle + kPi / 4 + k * kUp);
@@ -57,6 +60,7 @@ class ElementPicture {
             DrawNormal(face);
             DrawShear(face);
         }
+        if (view_.ShowsTurn) LabelTurn(); // it has the least room, between its arc and the axis
         LabelFaces();
         LabelAxes();
     }
@@ -64,13 +68,14 @@ class ElementPicture {
     /// The turned axes alone, for inertia.
     void DrawAxesOnly()
     {
-        DrawAxes(kMainColour);
-        figure_.Line(Polar({0, 0}, kAxisLength, view_.Angle + kPi), {0, 0}, {kFaintColour});
-        figure_.Line(Polar({0, 0}, kAxisLength, view_.Angle - kUp), {0, 0}, {kFaintColour});
+        DrawAxes({kMainColour});
+        figure_.Line(Polar({0, 0}, kAxisLength, view_.Angle + kPi), {0, 0}, kAxisPen);
+        figure_.Line(Polar({0, 0}, kAxisLength, view_.Angle - kUp), {0, 0}, kAxisPen);
         figure_.Text(OnAxis(0, 0.6), view_.Text[0], view_.Angle - kUp, kMainColour, true);
         figure_.Text(OnAxis(1, 0.6), view_.Text[1], view_.Angle, kMainColour, true);
         if (!view_.Text[2].empty())
             figure_.Text({0, -0.6}, view_.Text[2], -kUp, view_.Shear, true, false);
+        if (view_.ShowsTurn) LabelTurn();
         LabelAxes();
     }
 
@@ -92,13 +97,13 @@ class ElementPicture {
     }
     [[nodiscard]] bool IsTurned() const { return std::abs(view_.Angle) > kNoAngle; }
 
-    void DrawAxes(Colour turned)
+    void DrawAxes(const Figure::Pen& turned)
     {
-        figure_.Arrow({-kAxisLength, 0}, {kAxisLength, 0}, {kFaintColour});
-        figure_.Arrow({0, -kAxisLength}, {0, kAxisLength}, {kFaintColour});
+        figure_.Arrow({-kAxisLength, 0}, {kAxisLength, 0}, kAxisPen);
+        figure_.Arrow({0, -kAxisLength}, {0, kAxisLength}, kAxisPen);
         if (!IsTurned()) return;
-        figure_.Arrow({0, 0}, OnAxis(0, kTurnedAxisLength), {turned});
-        figure_.Arrow({0, 0}, OnAxis(1, kTurnedAxisLength), {turned});
+        figure_.Arrow({0, 0}, OnAxis(0, kTurnedAxisLength), turned);
+        figure_.Arrow({0, 0}, OnAxis(1, kTurnedAxisLength), turned);
         if (view_.ShowsTurn)
             figure_.AngleArc({0, 0}, kArcRadius, 0, view_.Angle, {kAngleColour, 1.5});
     }
@@ -124,13 +129,17 @@ class ElementPicture {
                       {view_.Shear, 2});
     }
 
+    /// Both faces of a pair carry the same value; it stands beside the one that has room.
     void LabelFaces()
     {
-        for (int face = 0; face < 2; ++face) {
-            const double value = face == 0 ? view_.Values.NormalX : view_.Values.NormalY;
+        for (int pair = 0; pair < 2; ++pair) {
+            const double value = pair == 0 ? view_.Values.NormalX : view_.Values.NormalY;
             const double out = kHalfSide + kGap + (value == 0 ? 0 : ArrowLength(value));
-            const double side = view_.Angle + face * kUp + (face == 0 ? -0.3 : 0.3);
-            figure_.Text(AtFace(face, out, 0), view_.Text[face], side, kMainColour);
+            const double lean = pair == 0 ? -kLabelLean : kLabelLean;
+            std::vector<LabelAnchor> anchors;
+            for (const int face : {pair, pair + 2})
+                anchors.push_back({AtFace(face, out, 0), view_.Angle + face * kUp + lean});
+            figure_.Text(std::move(anchors), view_.Text[pair], kMainColour);
         }
         if (view_.Text[2].empty()) return;
         LabelShear();
@@ -153,18 +162,21 @@ class ElementPicture {
     {
         figure_.Text({kAxisLength, 0}, Plain(view_.Axes[0]), -kUp, kAxisColour, true, false);
         figure_.Text({0, kAxisLength}, Plain(view_.Axes[1]), kPi, kAxisColour, true, false);
-        if (view_.ShowsTurn) LabelTurn();
         if (!IsTurned()) return;
         for (int axis = 0; axis < 2; ++axis)
             figure_.Text(OnAxis(axis, kTurnedAxisLength), Plain(view_.TurnedAxes[axis]),
                          view_.Angle + axis * kUp, kAxisColour, true, false);
     }
 
+    /// Beside the arc, wherever along it there is room.
     void LabelTurn()
     {
-        const PicturePoint at = Polar({0, 0}, kArcRadius, view_.Angle / 2);
-        figure_.Text(at, Plain(TurnText(view_.Angle)), IsTurned() ? view_.Angle / 2 : kUp,
-                     kAngleColour);
+        std::vector<LabelAnchor> anchors;
+        for (const double share : {0.5, 0.3, 0.7}) {
+            const double angle = share * view_.Angle;
+            anchors.push_back({Polar({0, 0}, kArcRadius, angle), IsTurned() ? angle : kUp});
+        }
+        figure_.Text(std::move(anchors), Plain(TurnText(view_.Angle)), kAngleColour);
     }
 
     Figure figure_;

@@ -77,7 +77,7 @@ void Figure::Line(PicturePoint from, PicturePoint to, const Pen& pen)
     Take(pen);
     pic_.Line(from.X, from.Y, to.X, to.Y);
     pic_.DrawStyle = LinePattern::Solid;
-    placer_.KeepOffLine(from, to);
+    placer_.KeepOffLine(from, to, pen.Weight);
 }
 
 void Figure::Arrow(PicturePoint from, PicturePoint to, const Pen& pen)
@@ -85,7 +85,7 @@ void Figure::Arrow(PicturePoint from, PicturePoint to, const Pen& pen)
     Take(pen);
     pic_.DrawStyle = LinePattern::Solid;
     DrawArrow(pic_, from, to, head_);
-    placer_.KeepOffLine(from, to);
+    placer_.KeepOffLine(from, to, pen.Weight);
 }
 
 void Figure::Circle(PicturePoint centre, double radius, const Pen& pen)

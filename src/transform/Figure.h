@@ -15,6 +15,7 @@ class Figure {
         Colour Ink;
         double Width = 1;
         LinePattern Pattern = LinePattern::Solid;
+        double Weight = 1; ///< what a label minds about crossing it
     };
     void Line(PicturePoint from, PicturePoint to, const Pen& pen);
     void Arrow(PicturePoint from, PicturePoint to, const Pen& pen); ///< filled head at the end

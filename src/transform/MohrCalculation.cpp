@@ -84,11 +84,15 @@ StressState StateFrom(const StressState& before, MohrMode mode, Values value)
     return state;
 }
 
+bool RosetteInPlaneStress(const MohrEntry& entry)
+{
+    return IsRosette(entry.Mode) && entry.Stresses.Wanted && entry.Stresses.StressOrStrain == 0;
+}
+
 /// The strain across the surface of a body in plane stress; 0 in all other cases.
 double ThirdPrincipal(StressState& state, const MohrEntry& entry)
 {
-    const bool planeStress = entry.Stresses.Wanted && entry.Stresses.StressOrStrain == 0;
-    if (!IsRosette(entry.Mode) || !planeStress || !ReadModuli(state, entry.Stresses)) return 0;
+    if (!RosetteInPlaneStress(entry) || !ReadModuli(state, entry.Stresses)) return 0;
     const double nu = state.PoissonRatio;
     return Finite(-(nu / (1 - nu)) * (state.SigmaX + state.SigmaY));
 }
@@ -195,10 +199,14 @@ CircleWindow WindowOf(StressState& state, const MohrEntry& entry)
 
 bool ShowsThreeCircles(const MohrEntry& entry)
 {
-    if (IsInertia(entry)) return false;
-    const bool rosetteInPlaneStress =
-        IsRosette(entry.Mode) && entry.Stresses.Wanted && entry.Stresses.StressOrStrain == 0;
-    return entry.ShowAbsMaxShear || rosetteInPlaneStress;
+    return !IsInertia(entry) && (entry.ShowAbsMaxShear || RosetteInPlaneStress(entry));
+}
+
+bool AssumesPlaneStress(const MohrEntry& entry)
+{
+    if (!IsStrain(entry.Mode)) return true;
+    StressState constants;
+    return RosetteInPlaneStress(entry) && ReadModuli(constants, entry.Stresses);
 }
 
 RotatedState StateAt(const StressState& state, double angle)

@@ -54,6 +54,9 @@ CircleWindow MaxMinMohrCircle(StressState& state, double high, double low, doubl
 CircleWindow WindowOf(StressState& state, const MohrEntry& entry);
 /// True where the two smaller circles and the third principal value are shown.
 bool ShowsThreeCircles(const MohrEntry& entry);
+/// True where the third principal value is that of a body free of stress across its surface:
+/// plane stress, and a rosette on a body in plane stress whose elastic constants are known.
+bool AssumesPlaneStress(const MohrEntry& entry);
 
 /// The state on an element turned counterclockwise by `angle` radians. Shear is positive where it
 /// turns the x' face counterclockwise (the opposite of TauXY), half the shear strain in strain.

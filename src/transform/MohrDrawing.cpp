@@ -140,12 +140,13 @@ class CirclePicture {
         if (three_) Name({state_.PrincipalThree, 0}, Quantity::Three, -3 * kPi / 4, kMainColour);
     }
 
+    /// Where there are two, one stands outside and one inside, each beside its own dot.
     void LabelShears()
     {
-        Name(ShearTop(), Quantity::MaxShear, kUp, ShearColour(state_));
         if (three_)
             Name({state_.AbsMaxCentre, state_.AbsMaxShear}, Quantity::AbsMaxShear, kUp,
                  ShearColour(state_));
+        Name(ShearTop(), Quantity::MaxShear, three_ ? kDown : kUp, ShearColour(state_));
     }
 
     void LabelAngle()
@@ -222,10 +223,8 @@ class CirclePicture {
     void NoteAssumption()
     {
         if (!three_) return;
-        const bool planeStrain =
-            IsStrain(entry_.Mode) && (state_.PrincipalThree == 0 || !IsRosette(entry_.Mode));
         const std::string note =
-            planeStrain ? "Plane strain assumption" : "Plane stress assumption";
+            AssumesPlaneStress(entry_) ? "Plane stress assumption" : "Plane strain assumption";
         figure_.Text({pic_.ScaleLeft(), Bottom()}, Plain(note), kUp / 2, kAxisColour, false, false);
     }
 

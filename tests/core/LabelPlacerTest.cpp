@@ -107,6 +107,50 @@ TEST(LabelPlacer, LeavesOutWhatHasNoRoomAndShrinksWhatIsNeeded)
     EXPECT_TRUE(test::Near(pic.FontSize, 10));
 }
 
+/// Lines close the near places. The way up is the shortest, but another label stands in it.
+TEST(LabelPlacer, ALeaderStrikesNoLabelThrough)
+{
+    RecordingPicture pic(300, 300);
+    LabelPlacer placer(pic);
+    for (int y = 111; y <= 250; y += 7) placer.KeepOffLine({0, 1.0 * y}, {200, 1.0 * y});
+    ASSERT_TRUE(placer.Place(Wish({150, 111}, "free")));
+    EXPECT_LT(pic.TextBoxes().front().Y2, 111);
+    LabelPlacer closed(pic);
+    for (int y = 111; y <= 250; y += 7) closed.KeepOffLine({0, 1.0 * y}, {200, 1.0 * y});
+    closed.Reserve({0, 88}, {195, 101});
+    ASSERT_TRUE(closed.Place(Wish({150, 111}, "closed")));
+    EXPECT_GT(pic.TextBoxes().back().X1, 195);
+}
+
+TEST(LabelPlacer, LabelsSideBySideAreToldApart)
+{
+    RecordingPicture pic(300, 13);
+    LabelPlacer placer(pic);
+    for (const double x : {100.0, 105.0, 110.0}) ASSERT_TRUE(placer.Place(Wish({x, 6}, "label")));
+    const auto boxes = pic.TextBoxes();
+    for (std::size_t i = 0; i < boxes.size(); ++i)
+        for (std::size_t j = 0; j < i; ++j) {
+            const double apart = std::max(boxes[i].X1 - boxes[j].X2, boxes[j].X1 - boxes[i].X2);
+            EXPECT_GT(apart, 5.9);
+        }
+}
+
+/// A faint line may rather be stood on than the preferred side be left.
+TEST(LabelPlacer, MayStandOnAFaintLine)
+{
+    const auto crosses = [](double weight) {
+        RecordingPicture pic(300, 300);
+        LabelPlacer placer(pic);
+        placer.KeepOffLine({100, 0}, {100, 300}, weight);
+        placer.KeepOffLine({200, 0}, {200, 300}, weight);
+        EXPECT_TRUE(placer.Place(Wish({150, 150}, "a longer label")));
+        const auto box = pic.TextBoxes().front();
+        return box.X1 < 200 && box.X2 > 200;
+    };
+    EXPECT_TRUE(crosses(0.1));
+    EXPECT_FALSE(crosses(1));
+}
+
 TEST(LabelPlacer, RestoresTheSettings)
 {
     RecordingPicture pic(100, 100);

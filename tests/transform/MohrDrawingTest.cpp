@@ -135,6 +135,52 @@ TEST(DrawMohrCircle, ShowsThreeCirclesWhereAskedFor)
                                            std::string("Plane stress assumption")}));
 }
 
+/// The gauges 100, 0, -100 find no mean strain: nothing strains across the surface either, and
+/// what was assumed of it still decides the note.
+TEST(DrawMohrCircle, NotesWhatWasAssumedOfTheThirdDirection)
+{
+    RecordingPicture pic(500, 500);
+    const auto noteOf = [&pic](const MohrEntry& entry) {
+        const Solved solved = Solve(entry);
+        DrawMohrCircle(pic, solved.State, solved.Entry);
+        for (const std::string& text : pic.Texts())
+            if (text.find("assumption") != std::string::npos) return text;
+        return std::string();
+    };
+    MohrEntry entry = Rosette(MohrMode::Rosette45, {"100", "40", "100"});
+    entry.Negative[2] = true;
+    EXPECT_EQ(noteOf(entry), "Plane stress assumption");
+    entry.Stresses.Poisson = "0"; // then no third strain can be known
+    EXPECT_EQ(noteOf(entry), "Plane strain assumption");
+    entry.Stresses.Wanted = false;
+    EXPECT_EQ(noteOf(entry), "");
+    entry.ShowAbsMaxShear = true;
+    EXPECT_EQ(noteOf(entry), "Plane strain assumption");
+    MohrEntry strain = Entry(MohrMode::PlaneStrain, {"400", "200", "300"}, 5);
+    EXPECT_EQ(noteOf(strain), "");
+    strain.ShowAbsMaxShear = true;
+    EXPECT_EQ(noteOf(strain), "Plane strain assumption");
+}
+
+/// Two maxima close to each other: each label stands on the side of its own dot.
+TEST(DrawMohrCircle, TheTwoMaximumShearsStandApart)
+{
+    Solved solved = PlaneStress(80, 30, 20);
+    solved.Entry.ShowAbsMaxShear = true;
+    RecordingPicture pic(700, 450);
+    DrawMohrCircle(pic, solved.State, solved.Entry);
+    const auto middleOf = [&pic](const std::string& start) {
+        for (const auto& box : pic.TextBoxes())
+            if (box.Text.rfind(start, 0) == 0) return (box.Y1 + box.Y2) / 2;
+        return -1.0;
+    };
+    const double outer = pic.ToPixels({0, solved.State.AbsMaxShear}).Y;
+    const double inner = pic.ToPixels({0, solved.State.CircleRadius}).Y;
+    ASSERT_GT(middleOf("Tau Abs Max = "), 0);
+    EXPECT_LT(middleOf("Tau Abs Max = "), outer);
+    EXPECT_GT(middleOf("Tau Max XY = "), inner);
+}
+
 TEST(DrawMohrCircle, StrainCarriesRadians)
 {
     const Solved micro = Solve(Rosette(MohrMode::Rosette45, {"340", "315", "110"}));
