@@ -65,7 +65,10 @@ class InputColumn : public QScrollArea {
     {
         const int needed =
             widget()->minimumSizeHint().width() + verticalScrollBar()->sizeHint().width();
-        if (needed > minimumWidth()) setFixedWidth(needed);
+        if (needed <= minimumWidth()) return;
+        setFixedWidth(needed);
+        // At once, or the first showing of a wider analysis would lie under the pictures.
+        parentWidget()->layout()->activate();
     }
 };
 

@@ -104,6 +104,24 @@ TEST_P(MohrLabels, NothingOverlapsInTheSmallestWindow)
     }
 }
 
+// The column of inputs makes room for the widest of them, in every analysis.
+TEST_P(MohrLabels, TheInputsKeepOffThePictures)
+{
+    Open("frmMohr");
+    TheForm().resize(1024, 700);
+    QCoreApplication::processEvents();
+    MenuItem(GetParam().Menu).trigger();
+    Find<QLineEdit>("txtStress(0)").setText("400");
+    Find<QLineEdit>("txtStress(2)").setText("300");
+    Find<QPushButton>("cmdMohr(0)").click();
+    QCoreApplication::processEvents();
+    const auto left = [this](const char* name) {
+        return Widget(name).mapTo(&TheForm(), QPoint(0, 0)).x();
+    };
+    for (const char* frame : {"fraStress", "fraRotater"})
+        EXPECT_LE(left(frame) + Widget(frame).width() + screen::kGap, left("splPictures")) << frame;
+}
+
 // Alt with a letter does one thing only.
 TEST_P(MohrLabels, MnemonicsAreUnique)
 {
