@@ -84,7 +84,7 @@ class TrussFormTest : public FormTest {
     void Drag(Place from, Place to, Qt::MouseButton button = Qt::LeftButton)
     {
         auto& picture = Truss();
-        picture.PaintNow();
+        QCoreApplication::processEvents(); // paints it where it changed
         const QPoint start = picture.PixelOf(from.X, from.Y);
         const QPoint end = picture.PixelOf(to.X, to.Y);
         QTest::mousePress(&picture, button, Qt::NoModifier, start);

@@ -109,6 +109,7 @@ TEST_F(TrussMonkey, LeavesAValidModel)
     random_.seed(seed);
     Messages->AcceptAny = true;
     LayGrid(3, 3);
+    TheForm().resize(TheForm().minimumSizeHint()); // small pictures are painted faster
     QTimer answering;
     QObject::connect(&answering, &QTimer::timeout, [this] { AnswerModalForms(); });
     answering.start(0);
