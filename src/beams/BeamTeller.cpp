@@ -18,12 +18,19 @@ std::string UniformText(double load)
     return Format(load, std::abs(load) < kLargeLoad ? "##0.0####" : "###,###,##0.0#");
 }
 
-std::string LengthNumber(double length)
+/// a ÷ c, or a × 1 / c where c is below 1; a itself where c is 1.
+Expression Converted(const Expression& a, double c)
 {
-    return Format(length, "######0.0#");
+    if (std::abs(c - 1) < kSameUnit) return a;
+    return c > 1 ? a / Number(c) : a * Number(1 / c);
 }
 
 } // namespace
+
+Expression Number(double value)
+{
+    return forcelab::Number(value, {"#,###,###,##0.0"});
+}
 
 BeamTeller::BeamTeller(Narration& text, const BeamView& view, int loadCase)
     : Text(text), Beam(view.Beam), Reactions(view.Reactions), Curves(view.Curves),
@@ -54,7 +61,7 @@ Expression BeamTeller::Moment(double poundInches) const
 
 Expression BeamTeller::Distance(double from, double to) const
 {
-    return Grouped(Difference(Length(to), Length(from)));
+    return Length(to) - Length(from);
 }
 
 std::string BeamTeller::LengthUnit() const
@@ -88,29 +95,31 @@ std::string BeamTeller::UniformShown(double load) const
 }
 
 void BeamTeller::ForceLine(const std::string& name, const std::string& symbols,
-                           const Expression& putIn, double exact) const
+                           const Expression& putIn, Exact exact) const
 {
-    Text.Line(WriteLine({name, symbols, putIn, exact / forceFactor_, PlainText, ForceUnit()}));
+    if (exact) *exact /= forceFactor_;
+    Text.Line(WriteLine({name, symbols, {putIn}, PlainText, ForceUnit(), exact}));
 }
 
 void BeamTeller::MomentLine(const std::string& name, const std::string& symbols,
-                            const Expression& putIn, double exact) const
+                            const Expression& putIn, Exact exact) const
 {
+    if (exact) *exact /= momentFactor_;
     const double conversion = momentFactor_ / (forceFactor_ * lengthFactor_);
-    Text.Line(WriteLine({name, symbols, Converted(putIn, conversion), exact / momentFactor_,
-                         PlainText, MomentUnit()}));
+    Text.Line(
+        WriteLine({name, symbols, {Converted(putIn, conversion)}, PlainText, MomentUnit(), exact}));
 }
 
 void BeamTeller::LengthLine(const std::string& name, const std::string& symbols,
-                            const Expression& putIn, double exact) const
+                            const Expression& putIn) const
 {
-    Text.Line(WriteLine({name, symbols, putIn, exact / lengthFactor_, LengthNumber, LengthUnit()}));
+    Text.Line(WriteLine({name, symbols, {putIn}, NumberStyle{"######0.0#"}, LengthUnit()}));
 }
 
 void BeamTeller::UniformLine(const std::string& name, const std::string& symbols,
-                             const Expression& putIn, double exact) const
+                             const Expression& putIn) const
 {
-    Text.Line(WriteLine({name, symbols, putIn, Consistent(exact, -1), UniformText, UniformUnit()}));
+    Text.Line(WriteLine({name, symbols, {putIn}, UniformText, UniformUnit()}));
 }
 
 std::vector<NamedForce> BeamTeller::Forces() const
@@ -141,24 +150,19 @@ void BeamTeller::ListLoad(int row) const
 {
     const double unit = Beam.LoadUnitFactor[row][2];
     const auto number = [&](int column) { return Number(Beam.LoadMagnitude[row][column] / unit); };
-    const auto times = [&](double factor, int column) {
-        return Product({Number(factor), number(column)});
-    };
-    const bool factored = Beam.FactoredLoads;
     Expression entered = number(kUnfactored);
-    if (factored)
-        entered = Case == kFactored
-                      ? Sum({times(Beam.DeadFactor, kDead), times(Beam.LiveFactor, kLive)})
-                      : Sum({number(kDead), number(kLive)});
+    if (Beam.FactoredLoads)
+        entered = Case == kFactored ? Number(Beam.DeadFactor) * number(kDead) +
+                                          Number(Beam.LiveFactor) * number(kLive)
+                                    : number(kDead) + number(kLive);
     const std::string& name = Beam.LoadName[row];
-    const double q = Magnitude(row);
     const int family = Beam.LoadClass[row];
-    if (family == kPointLoad) ForceLine(name, "", Converted(entered, forceFactor_ / unit), q);
+    if (family == kPointLoad) ForceLine(name, "", Converted(entered, forceFactor_ / unit));
     if (family == kUniformLoad)
-        UniformLine(name, "", Converted(entered, forceFactor_ / lengthFactor_ / unit), q);
+        UniformLine(name, "", Converted(entered, forceFactor_ / lengthFactor_ / unit));
     if (family == kMomentLoad)
-        Text.Line(WriteLine({name, "", Converted(entered, momentFactor_ / unit), q / momentFactor_,
-                             PlainText, MomentUnit()}));
+        Text.Line(WriteLine(
+            {name, "", {Converted(entered, momentFactor_ / unit)}, PlainText, MomentUnit()}));
 }
 
 void BeamTeller::ListLoads() const
@@ -188,14 +192,8 @@ void BeamTeller::ListResultants() const
         const std::string& name = Beam.LoadName[row];
         const double x1 = Beam.LoadX[row][1];
         const double x2 = Beam.LoadX[row][2];
-        ForceLine("W of " + name, name + " × length",
-                  Product({Uniform(Magnitude(row)), Distance(x1, x2)}), Magnitude(row) * (x2 - x1));
-        LengthLine("x of " + name, "(start + end) ÷ 2",
-                   Quotient(Grouped(Sum({Length(x1), Length(x2)})),
-                            [](int) {
-                                return Printed{"2", 2};
-                            }),
-                   (x1 + x2) / 2);
+        ForceLine("W of " + name, name + " × length", Uniform(Magnitude(row)) * Distance(x1, x2));
+        LengthLine("x of " + name, "(start + end) ÷ 2", (Length(x1) + Length(x2)) / 2);
     }
 }
 

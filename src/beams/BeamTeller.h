@@ -1,9 +1,10 @@
 #pragma once
 
 #include "beams/BeamNarration.h"
-#include "beams/Workings.h"
 #include "core/Narration.h"
+#include "core/Workings.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -21,6 +22,11 @@ struct NamedMoment {
     double Moment;
     double X;
 };
+
+using Terms = std::vector<Expression>;
+
+/// A number put in, with one decimal at least.
+Expression Number(double value);
 
 /// Writes lines of arithmetic about one load case of a beam.
 ///
@@ -48,7 +54,7 @@ class BeamTeller {
     [[nodiscard]] Expression Length(double inches) const { return Number(inches / lengthFactor_); }
     [[nodiscard]] Expression Uniform(double load) const;
     [[nodiscard]] Expression Moment(double poundInches) const;
-    /// "(b - a)".
+    /// "b - a".
     [[nodiscard]] Expression Distance(double from, double to) const;
     /// Forces to the power 1 and lengths to `power`: what `value` is in the consistent system.
     [[nodiscard]] double Consistent(double value, int power) const;
@@ -63,16 +69,18 @@ class BeamTeller {
     [[nodiscard]] std::string UniformUnit() const { return ForceUnit() + "/" + LengthUnit(); }
     [[nodiscard]] std::string MomentUnit() const;
 
-    // Lines of arithmetic; `exact` in pounds and inches.
+    // Lines of arithmetic; `exact` in pounds and inches, where the result is not of the tutor's
+    // own making but a number of the diagrams.
+    using Exact = std::optional<double>;
     void ForceLine(const std::string& name, const std::string& symbols, const Expression& putIn,
-                   double exact) const;
+                   Exact exact = {}) const;
     /// `putIn` is in the consistent system and is converted where moments are shown otherwise.
     void MomentLine(const std::string& name, const std::string& symbols, const Expression& putIn,
-                    double exact) const;
-    void LengthLine(const std::string& name, const std::string& symbols, const Expression& putIn,
-                    double exact) const;
-    void UniformLine(const std::string& name, const std::string& symbols, const Expression& putIn,
-                     double exact) const;
+                    Exact exact = {}) const;
+    void LengthLine(const std::string& name, const std::string& symbols,
+                    const Expression& putIn) const;
+    void UniformLine(const std::string& name, const std::string& symbols,
+                     const Expression& putIn) const;
 
     /// Point loads and the resultants of uniform loads, in the order of entry.
     [[nodiscard]] std::vector<NamedForce> Forces() const;

@@ -10,11 +10,6 @@ namespace {
 constexpr double kHere = 0.000006; // key points lie further apart than that
 constexpr double kNoise = 1e-9;    // of the largest value; what is left of 0 after all sums
 
-Expression Two()
-{
-    return [](int) { return Printed{"2", 2}; };
-}
-
 } // namespace
 
 bool PieceTeller::IsHere(double a, double x) const
@@ -41,16 +36,14 @@ double PieceTeller::Settled(double x) const
 std::vector<Jump> PieceTeller::ShearJumpsAt(double x) const
 {
     std::vector<Jump> jumps;
-    const auto add = [&](const std::string& name, double upward, bool up) {
-        jumps.push_back({name, up == (ShearSign > 0) ? " + " : " - ", ShearSign * upward});
-    };
+    const bool upwardAdds = ShearSign > 0;
     if (Beam.SupportType != kFixedRight && IsHere(Beam.SupportA, x))
-        add("A", Reactions.ReactionA[Case], true);
+        jumps.push_back({"A", upwardAdds, Reactions.ReactionA[Case]});
     if (Beam.SupportType != kFixedLeft && IsHere(Beam.SupportB, x))
-        add("B", Reactions.ReactionB[Case], true);
+        jumps.push_back({"B", upwardAdds, Reactions.ReactionB[Case]});
     for (int row = 1; row <= Beam.LoadCount; ++row)
         if (Beam.LoadClass[row] == kPointLoad && IsHere(Beam.LoadX[row][1], x))
-            add(Beam.LoadName[row], -Magnitude(row), false);
+            jumps.push_back({Beam.LoadName[row], !upwardAdds, Magnitude(row)});
     return jumps;
 }
 
@@ -58,12 +51,12 @@ std::vector<Jump> PieceTeller::MomentJumpsAt(double x) const
 {
     std::vector<Jump> jumps;
     if (Beam.SupportType == kFixedLeft && IsHere(Beam.SupportA, x))
-        jumps.push_back({"MA", " - ", -Reactions.MomentA[Case]});
+        jumps.push_back({"MA", false, Reactions.MomentA[Case]});
     if (Beam.SupportType == kFixedRight && IsHere(Beam.SupportB, x))
-        jumps.push_back({"MB", " - ", -Reactions.MomentB[Case]});
+        jumps.push_back({"MB", false, Reactions.MomentB[Case]});
     for (int row = 1; row <= Beam.LoadCount; ++row)
         if (Beam.LoadClass[row] == kMomentLoad && IsHere(Beam.LoadX[row][1], x))
-            jumps.push_back({Beam.LoadName[row], " - ", -Magnitude(row)});
+            jumps.push_back({Beam.LoadName[row], false, Magnitude(row)});
     return jumps;
 }
 
@@ -98,13 +91,13 @@ void PieceTeller::TellJump(const std::string& letter, double x, const std::vecto
 {
     if (jumps.empty()) return;
     double left = right;
-    for (const Jump& jump : jumps) left -= jump.Amount;
+    for (const Jump& jump : jumps) left -= jump.Adds ? jump.Amount : -jump.Amount;
     std::string symbols = Name(letter, x, true);
     const auto number = [&](double value) { return moment ? Moment(value) : Force(value); };
-    Terms terms{number(left)};
+    std::vector<SignedTerm> terms{{false, number(left)}};
     for (const Jump& jump : jumps) {
-        symbols += jump.Sign + jump.Name;
-        terms.push_back(number(jump.Amount));
+        symbols += (jump.Adds ? " + " : " - ") + jump.Name;
+        terms.push_back({!jump.Adds, number(jump.Amount)});
     }
     const std::string name = Name(letter, x, false);
     if (moment)
@@ -145,27 +138,21 @@ void PieceTeller::TellShear(const Piece& piece) const
         const bool backward = Beam.LoadX[row][1] > Beam.LoadX[row][2];
         loads.push_back(Uniform(backward ? -Magnitude(row) : Magnitude(row)));
     }
-    UniformLine("w", LoadName(piece), Sum(loads), piece.Load);
+    UniformLine("w", LoadName(piece), Sum(loads));
     const double end = piece.ShearJumps ? piece.To - kLeftOfJump : piece.To;
-    const Expression change = Product({Uniform(piece.Load), Distance(piece.From, end)});
+    const Expression change = Uniform(piece.Load) * Distance(piece.From, end);
     const bool reversed = ShearSign < 0;
     ForceLine(Name("V", piece.To, piece.ShearJumps),
               Name("V", piece.From, false) + (reversed ? " + w × length" : " - w × length"),
-              reversed ? Sum({Force(from), change}) : Difference(Force(from), change),
-              from - ShearSign * piece.Load * (end - piece.From));
+              reversed ? Force(from) + change : Force(from) - change);
 }
 
 void PieceTeller::TellArea(const Stretch& stretch, bool even) const
 {
-    const double length = stretch.To - stretch.From;
-    const Expression distance = Distance(stretch.From, stretch.To);
-    const double exact = (stretch.ShearFrom + stretch.ShearTo) / 2 * length;
-    if (even)
-        return MomentLine("Area", "V × length", Product({Force(stretch.ShearFrom), distance}),
-                          exact);
-    const Expression mean =
-        Quotient(Grouped(Sum({Force(stretch.ShearFrom), Force(stretch.ShearTo)})), Two());
-    MomentLine("Area", "(V left + V right) ÷ 2 × length", Product({mean, distance}), exact);
+    const Expression length = Distance(stretch.From, stretch.To);
+    if (even) return MomentLine("Area", "V × length", Force(stretch.ShearFrom) * length);
+    MomentLine("Area", "(V left + V right) ÷ 2 × length",
+               (Force(stretch.ShearFrom) + Force(stretch.ShearTo)) / 2 * length);
 }
 
 /// Tells one stretch and returns the moment at its end.
@@ -178,11 +165,11 @@ double PieceTeller::TellStretch(const Stretch& stretch, bool even) const
     const double rise = ShearSign * area;
     const double end = stretch.MomentFrom + rise;
     const std::string start = Name("M", stretch.From, false);
-    const std::string sign = ShearSign > 0 ? " + Area" : " - Area";
-    MomentLine(stretch.MomentName, start + sign,
-               ShearSign > 0 ? Sum({Moment(stretch.MomentFrom), Moment(area)})
-                             : Difference(Moment(stretch.MomentFrom), Moment(area)),
-               end);
+    const Expression before = Moment(stretch.MomentFrom);
+    if (ShearSign > 0)
+        MomentLine(stretch.MomentName, start + " + Area", before + Moment(area));
+    else
+        MomentLine(stretch.MomentName, start + " - Area", before - Moment(area));
     if (std::abs(area) > kNoise * most * length)
         Text.Line(std::string("The moment ") + (rise > 0 ? "rises" : "falls") +
                   (even ? " along a straight line, as the shear is constant."
@@ -190,12 +177,11 @@ double PieceTeller::TellStretch(const Stretch& stretch, bool even) const
     return end;
 }
 
-void PieceTeller::TellZeroShear(const Piece& piece, double from, double zero, double shear) const
+void PieceTeller::TellZeroShear(const Piece& piece, double shear) const
 {
     Text.Line("The shear passes zero on the way. There the moment has its turning point.");
-    const double load = ShearSign * piece.Load;
-    LengthLine("x", "start + V ÷ w", Sum({Length(from), Quotient(Force(shear), Uniform(load))}),
-               zero);
+    LengthLine("x", "start + V ÷ w",
+               Length(piece.From) + Force(shear) / Uniform(ShearSign * piece.Load));
 }
 
 void PieceTeller::TellMoment(const Piece& piece) const
@@ -219,7 +205,7 @@ void PieceTeller::TellMoment(const Piece& piece) const
     Text.Line(between + " the moment changes by the area under the shear curve.");
     if (shear * last < 0 && std::min(std::abs(shear), std::abs(last)) > noise) {
         const double zero = piece.From + shear / load;
-        TellZeroShear(piece, piece.From, zero, shear);
+        TellZeroShear(piece, shear);
         stretch.MomentFrom = TellStretch(
             {piece.From, zero, shear, 0, stretch.MomentFrom, Name("M", zero, false)}, false);
         stretch.From = zero;

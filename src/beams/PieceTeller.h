@@ -16,11 +16,11 @@ struct Piece {
     std::vector<int> Rows; ///< of those loads
 };
 
-/// A force or moment that makes a diagram jump, as it adds to the diagram.
+/// A force or moment that makes a diagram jump.
 struct Jump {
     std::string Name; ///< "A", "1P"
-    std::string Sign; ///< " + " or " - ", of the name
-    double Amount;    ///< lb or lb-in
+    bool Adds;        ///< or is subtracted
+    double Amount;    ///< of what is named, lb or lb-in
 };
 
 /// Tells how the shear diagram grows out of the loads and the moment diagram out of the shear.
@@ -53,7 +53,7 @@ class PieceTeller : public BeamTeller {
                   bool moment) const;
     [[nodiscard]] std::string LoadName(const Piece& piece) const;
     void TellArea(const Stretch& stretch, bool even) const;
-    void TellZeroShear(const Piece& piece, double from, double zero, double shear) const;
+    void TellZeroShear(const Piece& piece, double shear) const;
     double TellStretch(const Stretch& stretch, bool even) const;
 };
 

@@ -42,14 +42,13 @@ class ReactionTeller : public BeamTeller {
                       "their place. Two equations of moments give them, a sum of forces checks "
                       "them.");
         ListResultants();
-        const double span = Beam.SupportB - Beam.SupportA;
-        SolveOne({"B", Beam.SupportB, true}, "A", Reactions.ReactionA[Case], span);
-        SolveOne({"A", Beam.SupportA, false}, "B", Reactions.ReactionB[Case], span);
+        SolveOne({"B", Beam.SupportB, true}, "A", Reactions.ReactionA[Case]);
+        SolveOne({"A", Beam.SupportA, false}, "B", Reactions.ReactionB[Case]);
         CheckForces();
     }
 
     /// One equation of moments about a support gives the reaction at the other.
-    void SolveOne(const Axis& axis, const std::string& unknown, double reaction, double span) const
+    void SolveOne(const Axis& axis, const std::string& unknown, double reaction) const
     {
         Text.Heading("Sum of moments about " + axis.Name);
         Text.Sentence(axis.Name +
@@ -60,8 +59,7 @@ class ReactionTeller : public BeamTeller {
         const MomentSum sum = ListMoments(axis);
         Total(axis, sum);
         ForceLine(unknown, "Sum ÷ (B - A)",
-                  Quotient(Moment(sum.Exact), Distance(Beam.SupportA, Beam.SupportB)),
-                  sum.Exact / span);
+                  Moment(sum.Exact) / Distance(Beam.SupportA, Beam.SupportB));
         TellDirection(unknown, reaction);
     }
 
@@ -80,14 +78,13 @@ class ReactionTeller : public BeamTeller {
                 axis.Counterclockwise ? Distance(load.X, axis.X) : Distance(axis.X, load.X);
             const std::string symbols =
                 axis.Counterclockwise ? " × (" + axis.Name + " - x)" : " × (x - " + axis.Name + ")";
-            MomentLine("Moment of " + load.Name, load.Name + symbols,
-                       Product({Force(load.Force), distance}), load.Force * arm);
+            MomentLine("Moment of " + load.Name, load.Name + symbols, Force(load.Force) * distance);
             keep(load.Name, load.Force * arm);
         }
         for (const NamedMoment& load : Moments()) {
             const double moment = axis.Counterclockwise ? load.Moment : -load.Moment;
             const std::string sign = axis.Counterclockwise ? "" : "-";
-            MomentLine("Moment of " + load.Name, sign + load.Name, Moment(moment), moment);
+            MomentLine("Moment of " + load.Name, sign + load.Name, Moment(moment));
             keep(load.Name, moment);
         }
         return sum;
@@ -95,7 +92,7 @@ class ReactionTeller : public BeamTeller {
 
     void Total(const Axis& axis, const MomentSum& sum) const
     {
-        MomentLine("Sum about " + axis.Name, "", Sum(sum.PutIn), sum.Exact);
+        MomentLine("Sum about " + axis.Name, "", Sum(sum.PutIn));
     }
 
     void TellDirection(const std::string& name, double reaction) const
@@ -118,7 +115,7 @@ class ReactionTeller : public BeamTeller {
         if (terms.empty())
             Text.Line("No load has a vertical part: their sum is " + ForceShown(0) + ".");
         else
-            ForceLine("Sum of loads", JoinNames(names), Sum(terms), sum);
+            ForceLine("Sum of loads", JoinNames(names), Sum(terms));
         return sum;
     }
 
@@ -128,9 +125,8 @@ class ReactionTeller : public BeamTeller {
         const double loads = SumOfForces();
         const double a = Reactions.ReactionA[Case];
         const double b = Reactions.ReactionB[Case];
-        ForceLine("A + B", "", Sum({Force(a), Force(b)}), a + b);
-        ForceLine("A + B - Sum of loads", "", Difference(Sum({Force(a), Force(b)}), Force(loads)),
-                  0);
+        ForceLine("A + B", "", Force(a) + Force(b));
+        ForceLine("A + B - Sum of loads", "", Force(a) + Force(b) - Force(loads), 0);
     }
 
     /// A cantilever: the wall gives a force and a moment.
@@ -144,7 +140,7 @@ class ReactionTeller : public BeamTeller {
         ListResultants();
         Text.Heading("Sum of vertical forces");
         const double force = SumOfForces();
-        ForceLine(axis.Name, "Sum of loads", Force(force), force);
+        ForceLine(axis.Name, "Sum of loads", Force(force));
         TellDirection(axis.Name, force);
         Text.Heading("Sum of moments about the wall");
         Text.Sentence(std::string("Moments of the loads, ") +
@@ -157,7 +153,7 @@ class ReactionTeller : public BeamTeller {
     void WallMoment(const std::string& name, bool left, double sum) const
     {
         const double exact = left ? sum : -sum;
-        MomentLine(name, left ? "Sum" : "-Sum", Moment(exact), exact);
+        MomentLine(name, left ? "Sum" : "-Sum", Moment(exact));
         if (exact == 0) return;
         Text.Line(std::string("The wall turns the beam ") +
                   (exact > 0 ? "counterclockwise" : "clockwise") + " with " +

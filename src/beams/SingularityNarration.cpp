@@ -41,12 +41,6 @@ std::string CoefficientText(double size)
     return size < 0.1 || size >= 1e6 ? SmallText(size) : Format(size, "###,##0.0##");
 }
 
-/// A whole number without decimals, as a divisor.
-Expression Divisor(double value)
-{
-    return [value](int) { return Printed{std::to_string(int(value)), value}; };
-}
-
 class SingularityTeller : public BeamTeller {
   public:
     SingularityTeller(Narration& text, const BeamView& view, Diagram diagram, int loadCase)
@@ -142,48 +136,37 @@ class SingularityTeller : public BeamTeller {
                   UnitOf(words_.Order));
     }
 
-    [[nodiscard]] double ValueOf(const BracketTerm& term, double x) const
-    {
-        return term.Coefficient * std::pow((x - term.At) / lengthFactor_, term.Power) /
-               Factorial(term.Power);
-    }
-
+    /// Without its sign.
     [[nodiscard]] Expression PutIn(const BracketTerm& term, double x) const
     {
-        if (term.Power == 0) return Number(term.Coefficient);
-        const Expression product =
-            Product({Number(term.Coefficient), Raised(Distance(term.At, x), term.Power)});
-        return term.Power == 1 ? product : Quotient(product, Divisor(Factorial(term.Power)));
+        const Expression coefficient = Number(std::abs(term.Coefficient));
+        if (term.Power == 0) return coefficient;
+        const Expression product = coefficient * Raised(Distance(term.At, x), term.Power);
+        return term.Power == 1 ? product : product / static_cast<int>(Factorial(term.Power));
     }
 
-    /// Terms at x, as expressions and as their exact sum; those that have not begun are left out.
-    struct Evaluated {
-        beams::Terms PutIn;
-        double Exact = 0;
-    };
-    [[nodiscard]] Evaluated Evaluate(int order, double x) const
+    /// The terms at x; those that have not begun are left out.
+    [[nodiscard]] std::vector<SignedTerm> Evaluate(int order, double x) const
     {
-        Evaluated sum;
-        for (const BracketTerm& term : TermsOf(order)) {
-            if (x < term.At || (x == term.At && term.Power > 0)) continue;
-            sum.PutIn.push_back(PutIn(term, x));
-            sum.Exact += ValueOf(term, x);
-        }
-        if (sum.PutIn.empty()) sum.PutIn.push_back(Number(0));
+        std::vector<SignedTerm> sum;
+        for (const BracketTerm& term : TermsOf(order))
+            if (x > term.At || (x == term.At && term.Power == 0))
+                sum.push_back({term.Coefficient < 0, PutIn(term, x)});
+        if (sum.empty()) sum.push_back({false, Number(0)});
         return sum;
     }
 
     void Line(const std::string& name, const std::string& symbols, const Expression& putIn,
-              double exact, int order) const
+              int order, Exact exact = {}) const
     {
-        Text.Line(WriteLine({name, symbols, putIn, exact, PlainText, UnitOf(order)}));
+        Text.Line(WriteLine({name, symbols, {putIn}, PlainText, UnitOf(order), exact}));
     }
 
     double TellSum(const std::string& name, int order, double x) const
     {
-        const Evaluated sum = Evaluate(order, x);
-        Line(name, "", Sum(sum.PutIn), sum.Exact, order);
-        return sum.Exact;
+        const Expression sum = Sum(Evaluate(order, x));
+        Line(name, "", sum, order);
+        return sum.Unrounded().Value;
     }
 
     void ExplainConstants() const
@@ -205,9 +188,7 @@ class SingularityTeller : public BeamTeller {
         const double yb = TellSum("Y(B)", 3, Beam.SupportB);
         const double c1 = (ya - yb) / (b - a);
         Line("C1", "(Y(A) - Y(B)) ÷ (B - A)",
-             Quotient(Grouped(Difference(Number(ya), Number(yb))),
-                      Distance(Beam.SupportA, Beam.SupportB)),
-             c1, 2);
+             (Number(ya) - Number(yb)) / Distance(Beam.SupportA, Beam.SupportB), 2);
         TellSecondConstant("A", ya, c1, a);
     }
 
@@ -216,15 +197,14 @@ class SingularityTeller : public BeamTeller {
         Text.Sentence("The slope EIθ is the sum T of its brackets plus C1, the deflection EIy the "
                       "sum Y of its brackets plus C1 × x + C2. Both are zero at the wall B.");
         const double t = TellSum("T(B)", 2, Beam.SupportB);
-        Line("C1", "-T(B)", Number(-t), -t, 2);
+        Line("C1", "-T(B)", Number(-t), 2);
         const double y = TellSum("Y(B)", 3, Beam.SupportB);
         TellSecondConstant("B", y, -t, Beam.SupportB / lengthFactor_);
     }
 
     void TellSecondConstant(const std::string& where, double y, double c1, double x) const
     {
-        Line("C2", "-Y(" + where + ") - C1 × " + where,
-             Difference(Number(-y), Product({Number(c1), Number(x)})), -y - c1 * x, 3);
+        Line("C2", "-Y(" + where + ") - C1 × " + where, Number(-y) - Number(c1) * Number(x), 3);
     }
 
     /// The value of largest size, computed from the function.
@@ -235,18 +215,18 @@ class SingularityTeller : public BeamTeller {
         const double x = table[1][words_.Row];
         const double exact = At(x).*words_.Value;
         Text.Heading("Its largest value in size, at " + Position(x));
-        Evaluated sum = Evaluate(words_.Order, x);
+        std::vector<SignedTerm> sum = Evaluate(words_.Order, x);
         const double c1 = Consistent(Reactions.SlopeConstant[Case], 2);
         const double c2 = Consistent(Reactions.DeflectionConstant[Case], 3);
-        const auto add = [&](double constant, const Expression& term) {
-            if (constant != 0) sum.PutIn.push_back(term);
+        const auto add = [&](double constant, int power) {
+            const Expression size = Number(std::abs(constant));
+            if (constant != 0) sum.push_back({constant < 0, power == 0 ? size : size * Length(x)});
         };
-        if (words_.Order == 2) add(c1, Number(c1));
-        if (words_.Order == 3) add(c1, Product({Number(c1), Length(x)}));
-        if (words_.Order == 3) add(c2, Number(c2));
+        if (words_.Order >= 2) add(c1, words_.Order - 2);
+        if (words_.Order == 3) add(c2, 0);
         const std::string name = std::string(words_.Function) + "(" + LengthText(x, Units) + ")";
-        if (words_.Order == 1) return MomentLine(name, "", Sum(sum.PutIn), exact);
-        Line(name, "", Sum(sum.PutIn), Consistent(exact, words_.Order), words_.Order);
+        if (words_.Order == 1) return MomentLine(name, "", Sum(sum), exact);
+        Line(name, "", Sum(sum), words_.Order, Consistent(exact, words_.Order));
         if (words_.Order >= 2) DivideByEI(exact);
     }
 
@@ -262,9 +242,12 @@ class SingularityTeller : public BeamTeller {
         Text.Line("EI is " + PlainText(Units.BeamEI) + " lb-in²; the factor k takes " +
                   UnitOf(words_.Order) + " to the pounds and inches of EI and the result to " +
                   unit + ".");
-        Text.Line(WriteLine({slope ? "θ" : "y", std::string(words_.Function) + " × k ÷ EI",
-                             Quotient(Product({Number(value), Number(k)}), Number(Units.BeamEI)),
-                             exact * scale, SmallText, unit}));
+        Text.Line(WriteLine({slope ? "θ" : "y",
+                             std::string(words_.Function) + " × k ÷ EI",
+                             {Number(value) * Number(k) / Number(Units.BeamEI)},
+                             SmallText,
+                             unit,
+                             exact * scale}));
     }
 
     const DiagramWords& words_;

@@ -222,9 +222,18 @@ Expression Worked(const Expression& inner, NumberStyle style)
 
 Expression Sum(const std::vector<Expression>& terms)
 {
+    std::vector<SignedTerm> added;
+    added.reserve(terms.size());
+    for (const Expression& term : terms) added.push_back({false, term});
+    return Sum(added);
+}
+
+Expression Sum(const std::vector<SignedTerm>& terms)
+{
     if (terms.empty()) return 0;
-    Expression sum = terms.front();
-    for (std::size_t k = 1; k < terms.size(); ++k) sum = sum + terms[k];
+    Expression sum = terms.front().Subtracted ? -terms.front().Size : terms.front().Size;
+    for (auto term = terms.begin() + 1; term != terms.end(); ++term)
+        sum = term->Subtracted ? sum - term->Size : sum + term->Size;
     return sum;
 }
 

@@ -38,6 +38,7 @@ class Expression {
     using Printer = std::function<Printed(int morePlaces)>;
 
     Expression(int whole); ///< without decimals
+    Expression(double) = delete;
     explicit Expression(Printer print) : print_(std::make_shared<const Printer>(std::move(print)))
     {}
 
@@ -67,6 +68,14 @@ Expression Grouped(const Expression& inner);
 Expression Worked(const Expression& inner, NumberStyle style);
 /// "a + b + c"; 0 without terms.
 Expression Sum(const std::vector<Expression>& terms);
+
+/// A term of a sum by what stands behind its sign.
+struct SignedTerm {
+    bool Subtracted;
+    Expression Size;
+};
+/// "-a + b - c"; 0 without terms.
+Expression Sum(const std::vector<SignedTerm>& terms);
 
 /// One line of arithmetic: "Name = Symbols = numbers put in = Result Unit".
 struct WorkedLine {

@@ -114,7 +114,7 @@ void ExplainByForces(Narration& text, const Outside& outside, const OuterForce& 
     }
     text.Line(AxisSum(wanted.Upright) + " of the whole truss: " + wanted.Name +
               " balances the loads" + what + ".");
-    text.Line(WriteLine({wanted.Name, "", {-SumOf(sum)}, kForce}));
+    text.Line(WriteLine({wanted.Name, "", {-Sum(sum)}, kForce}));
 }
 
 /// The second reaction of its axis, by moments about the point that the other two pass through.
@@ -132,7 +132,7 @@ void ExplainByMoments(Narration& text, const Outside& outside, const ThreeReacti
         text.Line("No load has a moment about it: " + wanted.Name + " is zero.");
         return;
     }
-    const Expression working = -Grouped(SumOf(moments)) / Number(arm, kLength);
+    const Expression working = -Grouped(Sum(moments)) / Number(arm, kLength);
     text.Line(WriteLine({wanted.Name,
                          "-(moment of the loads) ÷ arm",
                          {working},
@@ -143,10 +143,10 @@ void CheckSum(Narration& text, const std::string& name, const SignedTerms& sum)
 {
     constexpr double kSinglePrecision = 1e-6;
     if (sum.empty()) return void(text.Line(name + ": nothing acts here."));
-    const Printed exact = SumOf(sum).Unrounded();
+    const Printed exact = Sum(sum).Unrounded();
     // What single precision leaves of large numbers does not count.
     const double rest = std::max(std::abs(exact.Value), kSinglePrecision * exact.Size);
-    text.Line(WriteLine({name, "", {SumOf(sum)}, RestStyle(rest)}));
+    text.Line(WriteLine({name, "", {Sum(sum)}, RestStyle(rest)}));
 }
 
 } // namespace

@@ -177,7 +177,7 @@ class TrussExplanation {
     {
         const auto known = Terms(step.Known, axis);
         const std::string p = std::string("P") + kAxis[axis];
-        if (!known.empty()) text_.Line(WriteLine({p, "", {SumOf(known)}, kForce}));
+        if (!known.empty()) text_.Line(WriteLine({p, "", {Sum(known)}, kForce}));
         std::string equation;
         const auto append = [&equation](bool minus, const std::string& term) {
             equation += equation.empty() ? (minus ? "-" : "") : (minus ? " - " : " + ");
@@ -200,7 +200,7 @@ class TrussExplanation {
 
     [[nodiscard]] double KnownSum(const JointStep& step, int axis) const
     {
-        return SumOf(Terms(step.Known, axis)).Unrounded().Value;
+        return Sum(Terms(step.Known, axis)).Unrounded().Value;
     }
 
     void Conclude(const JointForce& unknown, const Expression& working)
@@ -225,8 +225,8 @@ class TrussExplanation {
         if (sum.empty())
             return void(text_.Line(unknown.Name + " is zero: nothing else acts along this axis."));
         const double along = Along(unknown, axis);
-        if (std::abs(along) == 1) return Conclude(unknown, along < 0 ? SumOf(sum) : -SumOf(sum));
-        Conclude(unknown, -SumOf(sum) / Number(along, kCosine));
+        if (std::abs(along) == 1) return Conclude(unknown, along < 0 ? Sum(sum) : -Sum(sum));
+        Conclude(unknown, -Sum(sum) / Number(along, kCosine));
     }
 
     static int StrongerAxis(const JointForce& force)
@@ -265,10 +265,9 @@ class TrussExplanation {
             return SignedProduct(cosine, kCosine, other, style);
         };
         text_.Line("Both equations hold both unknowns; " + b.Name + " is eliminated between them.");
-        Conclude(a,
-                 SumOf({product(b.CosX, KnownSum(step, 1), kForce),
-                        product(-b.SinY, KnownSum(step, 0), kForce)}) /
-                     SumOf({product(a.CosX, b.SinY, kCosine), product(-a.SinY, b.CosX, kCosine)}));
+        Conclude(a, Sum({product(b.CosX, KnownSum(step, 1), kForce),
+                         product(-b.SinY, KnownSum(step, 0), kForce)}) /
+                        Sum({product(a.CosX, b.SinY, kCosine), product(-a.SinY, b.CosX, kCosine)}));
         SolveAlong(step, b, &a, StrongerAxis(b));
     }
 
@@ -276,7 +275,7 @@ class TrussExplanation {
     {
         const auto terms = Terms(forces, axis);
         if (terms.empty()) return;
-        const Expression sum = SumOf(terms);
+        const Expression sum = Sum(terms);
         text_.Line(WriteLine({std::string("Check: Sum F") + kAxis[axis],
                               "",
                               {sum},

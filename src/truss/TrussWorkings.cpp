@@ -17,15 +17,6 @@ SignedTerm SignedProduct(double first, NumberStyle firstStyle, double second,
     return {first < 0, Number(std::abs(first), firstStyle) * Number(second, secondStyle)};
 }
 
-Expression SumOf(const SignedTerms& terms)
-{
-    if (terms.empty()) return 0;
-    Expression sum = terms.front().Subtracted ? -terms.front().Term : terms.front().Term;
-    for (auto term = terms.begin() + 1; term != terms.end(); ++term)
-        sum = term->Subtracted ? sum - term->Term : sum + term->Term;
-    return sum;
-}
-
 NumberStyle CommonStyle(double a, double b)
 {
     constexpr std::array<NumberStyle, 4> kResults{

@@ -12,20 +12,12 @@ inline constexpr NumberStyle kCosine{"0.0####"};
 inline constexpr NumberStyle kComponent{"0.0000"};
 inline constexpr NumberStyle kLength{"####0.0##"};
 
-/// A term of a sum by what stands behind its sign.
-struct SignedTerm {
-    bool Subtracted;
-    Expression Term;
-};
 using SignedTerms = std::vector<SignedTerm>;
 
 SignedTerm SignedNumber(double value, NumberStyle style);
 /// The first factor gives the sign.
 SignedTerm SignedProduct(double first, NumberStyle firstStyle, double second,
                          NumberStyle secondStyle);
-
-/// "-a + b - c"; 0 without terms.
-Expression SumOf(const SignedTerms& terms);
 
 /// With most places, 3 at first, under which both values print alike.
 NumberStyle CommonStyle(double a, double b);

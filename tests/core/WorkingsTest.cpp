@@ -104,8 +104,10 @@ TEST(Workings, FunctionsTakeDegrees)
 
 TEST(Workings, SumOfAList)
 {
-    EXPECT_EQ(Text(Sum({})), "0");
-    EXPECT_EQ(Text(Sum({N(1), N(-2), N(3)})), Local("1.0 + (-2.0) + 3.0"));
+    EXPECT_EQ(Text(Sum(std::vector<Expression>{})), "0");
+    EXPECT_EQ(Text(Sum(std::vector{N(1), N(-2), N(3)})), Local("1.0 + (-2.0) + 3.0"));
+    EXPECT_EQ(Text(Sum({{true, N(1)}, {false, N(2)}, {true, N(-3)}})),
+              Local("-1.0 + 2.0 - (-3.0)"));
 }
 
 TEST(WriteLine, HasNameSymbolsNumbersResultAndUnit)
