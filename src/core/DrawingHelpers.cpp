@@ -195,6 +195,23 @@ std::array<PicturePoint, 4> ArrowPoints(double x, double y, double angle, int ki
     return points;
 }
 
+PixelRect RectToPicture(const Picture& pic, int rotation, const std::array<double, 4>& corners)
+{
+    const auto [left, bottom, right, top] = corners;
+    PicturePoint lower{left, bottom};
+    PicturePoint upper{right, top};
+    if (rotation == 1) {
+        lower = {-top, left};
+        upper = {-bottom, right};
+    } else if (rotation == 3) {
+        lower = {bottom, -right};
+        upper = {top, -left};
+    }
+    const PicturePoint foot = PixelOf(pic, lower);
+    const PicturePoint head = PixelOf(pic, upper);
+    return {head.Y, foot.X, head.X - foot.X, foot.Y - head.Y};
+}
+
 double LabelWidth(Picture& pic, const Label& label)
 {
     double width = 0;

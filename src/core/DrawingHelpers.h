@@ -26,6 +26,19 @@ inline constexpr int kArrowTipAtPoint = 4;
 std::array<PicturePoint, 4> ArrowPoints(double x, double y, double angle, int kind, double length,
                                         double headLength, double headHalfWidth);
 
+/// A rectangle in whole pixels of a picture.
+struct PixelRect {
+    double Top = 0;
+    double Left = 0;
+    double Width = 0;
+    double Height = 0;
+};
+
+/// Where a rectangle of a cross-section, given as left, bottom, right and top, lies on a picture
+/// whose y runs upward. The section stands as it is where `rotation` is 0; 1 turns it by a quarter
+/// turn counterclockwise about the origin, 3 clockwise.
+PixelRect RectToPicture(const Picture& pic, int rotation, const std::array<double, 4>& corners);
+
 /// A piece of a label: plain text, a Greek letter given as the font "Symbol" names it, or a
 /// subscript or superscript.
 struct LabelPart {

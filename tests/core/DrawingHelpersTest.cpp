@@ -233,6 +233,35 @@ TEST(ArrowPoints, WithTheTailAtThePointIsTurnedByPi)
     EXPECT_TRUE(At(turned[3], 0, 30));
 }
 
+/// One unit is 10 pixels, the origin lies in the middle of 200 x 200.
+TEST(RectToPicture, TurnsTheRectangleByQuarterTurns)
+{
+    RecordingPicture pic(200, 200);
+    pic.Scale(-10, 10, 10, -10);
+    const std::array<double, 4> flange{-3, 4, 5, 6}; // left, bottom, right, top
+    const auto expect = [&](int rotation, double top, double left, double width, double height) {
+        const PixelRect rect = RectToPicture(pic, rotation, flange);
+        EXPECT_EQ(rect.Top, top) << rotation;
+        EXPECT_EQ(rect.Left, left) << rotation;
+        EXPECT_EQ(rect.Width, width) << rotation;
+        EXPECT_EQ(rect.Height, height) << rotation;
+    };
+    expect(0, 40, 70, 80, 20);
+    expect(1, 50, 40, 20, 80);  // the upper flange comes to the left
+    expect(3, 70, 140, 20, 80); // and here to the right
+}
+
+TEST(RectToPicture, CutsToWholePixels)
+{
+    RecordingPicture pic(200, 200);
+    pic.Scale(-10, 10, 10, -10);
+    const PixelRect rect = RectToPicture(pic, 0, {-3.07, -1, 5.07, 2.04});
+    EXPECT_EQ(rect.Left, 69);
+    EXPECT_EQ(rect.Width, 150 - 69);
+    EXPECT_EQ(rect.Top, 79);
+    EXPECT_EQ(rect.Height, 110 - 79);
+}
+
 TEST_P(BothWays, ArrowEndsInAFilledHead)
 {
     pic.ForeColor = kRed;

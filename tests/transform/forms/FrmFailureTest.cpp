@@ -212,6 +212,32 @@ TEST_F(FailureForm, MohrHandsItsPrincipalStressesOver)
     EXPECT_EQ(seen[3], "(MPa)");
 }
 
+// Another unit on the Mohr screen, and back to the theories: 100 MPa are 100,000 kPa.
+TEST_F(FailureForm, AnotherUnitOfTheMohrScreenConvertsTheLimit)
+{
+    ComputeStandard();
+    const auto ask = [this](const std::function<void()>& there) {
+        Use("frmMohr");
+        QTimer::singleShot(0, [this, &there] {
+            Use("frmFailure");
+            there();
+            screen::Forms::Hide("frmFailure");
+        });
+        Trigger("mnuFailure");
+        Use("frmMohr");
+    };
+    ask([this] { Type("txtYieldStress", "100"); });
+    Choose("optStressUnits(2)");
+    std::string limit;
+    std::string unit;
+    ask([&] {
+        limit = Shown("txtYieldStress");
+        unit = Shown("lblYieldStress(1)");
+    });
+    EXPECT_EQ(limit, Local("100,000.000"));
+    EXPECT_EQ(unit, "(kPa)");
+}
+
 TEST_F(FailureForm, CaptionsLoseNothing)
 {
     auto& form = screen::FormAs<frmFailure>("frmFailure");
