@@ -134,7 +134,7 @@ void frmBeamDiagrams::mnuSpecificPoint_Click()
         CurrentPoint.XText = "0";
         TellPointChanged();
     }
-    if (Forms::IsKnown("frmDetails")) Forms::Show("frmDetails");
+    Forms::Show("frmDetails");
 }
 
 void frmBeamDiagrams::mnuShearSignConvention_Click()

@@ -1,15 +1,9 @@
 #include "beams/forms/frmBeamDiagramsLayout.h"
 
 #include "beams/BeamTexts.h"
-#include "beams/DiagramFrame.h"
-#include "core/MainModule.h"
-#include "core/RecordingPicture.h"
 
-#include <QAbstractItemView>
 #include <QBoxLayout>
-#include <QStyle>
 
-#include <algorithm>
 #include <vector>
 
 namespace forcelab::beams {
@@ -21,16 +15,10 @@ using screen::Q;
 
 namespace {
 
-constexpr int kSpace = 4;         // between the lines of the form, pixels
-constexpr int kUnitSpace = 20;    // between groups of unit options
-constexpr int kLowestLoads = 150; // heights
-constexpr int kLowestCurve = 84;
+constexpr int kLowestLoads = 140; // heights
+constexpr int kLowestCurve = 80;
 constexpr int kLoadStretch = 6; // heights of the load diagram and of a curve
 constexpr int kCurveStretch = 5;
-constexpr int kBesideFrom = 940; // the form's width from which explanations stand at the right
-constexpr int kNarrow = 560;     // below, lines of text may need two lines
-constexpr double kPaneWidth = 0.36;
-constexpr double kPaneHeight = 0.3;
 
 struct DiagramNames {
     std::string_view Caption;
@@ -44,12 +32,6 @@ constexpr std::array<DiagramNames, 4> kNames{
       "Slopes calculated with EI = 1"},
      {"Deflection diagram", "Deflections calculated with service dead and live loads.",
       "Deflections calculated with EI = 1"}}};
-
-/// The messages of slope and deflection: 0 and 2 tell of the missing EI, 1 and 3 of the loads.
-constexpr int FirstMessage(Diagram diagram)
-{
-    return diagram == Diagram::Slope ? 0 : 2;
-}
 
 std::string CaptionOf(Diagram diagram)
 {
@@ -286,133 +268,6 @@ void frmBeamDiagramsLayout::SetTabOrder()
         order.insert(order.end(), {button, curves_[std::size_t(index)]});
     for (const ExplainPane& pane : panes_) order.insert(order.end(), {pane.Text, pane.Close});
     for (std::size_t i = 1; i < order.size(); ++i) setTabOrder(order[i - 1], order[i]);
-}
-
-void frmBeamDiagramsLayout::SetFormWidthRows()
-{
-    const bool narrow = width() < kNarrow;
-    PlaceUnits(width() - 2 * screen::kMargin);
-    for (screen::Label* line : {lblPoint, lblHint})
-        line->setFixedHeight((narrow ? 2 : 1) * line->fontMetrics().lineSpacing() + kSpace);
-    PlacePane();
-    for (const Diagram diagram : {Diagram::Slope, Diagram::Deflection}) PlaceMessages(diagram);
-    LayComboLabels();
-}
-
-void frmBeamDiagramsLayout::PlaceUnits(int width)
-{
-    for (QHBoxLayout* line : unitLines_)
-        while (QLayoutItem* item = line->takeAt(0)) delete item;
-    std::size_t line = 0;
-    int left = width;
-    for (QWidget* group : units_) {
-        if (group->isHidden()) continue;
-        const int wanted = group->sizeHint().width();
-        if (wanted > left && left < width && line + 1 < unitLines_.size()) {
-            unitLines_[line++]->addStretch(1);
-            left = width;
-        }
-        unitLines_[line]->addWidget(group);
-        left -= wanted + kUnitSpace;
-    }
-    unitLines_[line]->addStretch(1);
-}
-
-bool frmBeamDiagramsLayout::PaneIsBeside() const
-{
-    return width() >= kBesideFrom;
-}
-
-/// True where the messages find room between the name of the diagram and its button.
-bool frmBeamDiagramsLayout::MessagesFit(Diagram diagram) const
-{
-    int wanted = 0;
-    for (const int i : {0, 1}) {
-        const screen::Label& message = lblEIMessage(FirstMessage(diagram) + i);
-        if (!message.isHidden()) wanted += message.sizeHint().width() + kUnitSpace;
-    }
-    const double share = PaneIsBeside() && !panePlace_->isHidden() ? 1 - kPaneWidth : 1;
-    const int around = lblDiagram(int(diagram)).sizeHint().width() +
-                       cmdDiscontinuity(int(diagram)).sizeHint().width() + kUnitSpace;
-    return wanted + around <= int(share * (width() - 2 * screen::kMargin));
-}
-
-void frmBeamDiagramsLayout::PlaceMessages(Diagram diagram)
-{
-    const bool below = !MessagesFit(diagram);
-    QWidget* messages = messages_[std::size_t(diagram)];
-    auto* grid = dynamic_cast<QGridLayout*>(curvePlaces_[std::size_t(diagram)]->layout());
-    auto* line = dynamic_cast<QBoxLayout*>(messages->layout());
-    grid->removeWidget(messages);
-    grid->addWidget(messages, below ? 1 : 0, below ? 0 : 1, 1, below ? 3 : 1);
-    line->setDirection(below ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
-    line->setAlignment(below ? Qt::AlignLeft : Qt::AlignRight);
-    line->setSpacing(below ? 0 : kUnitSpace);
-}
-
-void frmBeamDiagramsLayout::ShowMessages(bool noStiffness, bool service)
-{
-    for (const Diagram diagram : {Diagram::Slope, Diagram::Deflection}) {
-        lblEIMessage(FirstMessage(diagram)).setVisible(noStiffness);
-        lblEIMessage(FirstMessage(diagram) + 1).setVisible(service);
-        messages_[std::size_t(diagram)]->setVisible(noStiffness || service);
-        PlaceMessages(diagram);
-    }
-}
-
-void frmBeamDiagramsLayout::PlacePane()
-{
-    const bool beside = PaneIsBeside();
-    splDiagrams->setOrientation(beside ? Qt::Horizontal : Qt::Vertical);
-    if (panePlace_->isHidden()) return;
-    const int room = beside ? splDiagrams->width() : splDiagrams->height();
-    const int pane = int(room * (beside ? kPaneWidth : kPaneHeight));
-    splDiagrams->setSizes({room - pane, pane});
-}
-
-void frmBeamDiagramsLayout::LayComboLabels()
-{
-    for (const auto& [index, label] : txtComboLabels.Members()) {
-        const screen::ComboBox* list = index == 0 ? cboLoads : cboReactions;
-        label->setGeometry(0, 0, std::max(0, list->width() - MainModule::ScrollBarPixels),
-                           list->height());
-    }
-}
-
-// An arrow of the bar and half its slider lie beyond the place where the slider starts.
-void frmBeamDiagramsLayout::AlignBar(int pictureWidth)
-{
-    RecordingPicture sheet(pictureWidth, 1);
-    ScaleFrame(sheet, 1, 1, 0);
-    const int beyond = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, hsbX) +
-                       style()->pixelMetric(QStyle::PM_ScrollBarSliderMin, nullptr, hsbX) / 2;
-    const int left = int(ColumnOf(sheet, 0)) - beyond;
-    const int right = pictureWidth - int(ColumnOf(sheet, 1)) - beyond;
-    barPlace_->layout()->setContentsMargins(std::max(0, left), 0, std::max(0, right), 0);
-}
-
-void frmBeamDiagramsLayout::ShowCurvesOf(bool slopeView)
-{
-    for (const Diagram diagram :
-         {Diagram::Shear, Diagram::Moment, Diagram::Slope, Diagram::Deflection}) {
-        const bool shown = slopeView == (diagram >= Diagram::Slope);
-        curvePlaces_[std::size_t(diagram)]->setVisible(shown);
-        CurvePicture(diagram).setVisible(shown);
-    }
-    for (QWidget* group : {picForceUnits, picMomentUnits}) group->setVisible(!slopeView);
-    for (QWidget* group : {picSlopeUnits, picDeflectionUnits}) group->setVisible(slopeView);
-    SetFormWidthRows();
-}
-
-void frmBeamDiagramsLayout::ShowPane(int pane)
-{
-    const bool wasOpen = !panePlace_->isHidden();
-    for (int i = 0; i < int(panes_.size()); ++i)
-        panes_[std::size_t(i)].Frame->setVisible(i == pane);
-    panePlace_->setVisible(pane >= 0);
-    if (wasOpen == (pane >= 0)) return; // one that follows keeps the size that a hand gave
-    PlacePane();
-    for (const Diagram diagram : {Diagram::Slope, Diagram::Deflection}) PlaceMessages(diagram);
 }
 
 } // namespace forcelab::beams

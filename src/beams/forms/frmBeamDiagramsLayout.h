@@ -89,6 +89,12 @@ class frmBeamDiagramsLayout : public screen::Form {
          {fraExplainReactions, txtExplainReactions, &cmdCloseExplain(kReactionPane)}}};
 
   private:
+    static constexpr int kSpace = 4;      ///< between the lines of the form, pixels
+    static constexpr int kUnitSpace = 20; ///< between groups of unit options, and between messages
+
+    /// lblEIMessage: 0 and 2 tell of the missing EI, 1 and 3 of the loads.
+    static constexpr int FirstMessage(Diagram diagram) { return diagram == Diagram::Slope ? 0 : 2; }
+
     void SetCaptions();
     void DescribeControls();
     void DescribeDiagrams();

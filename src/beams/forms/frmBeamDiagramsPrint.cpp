@@ -14,7 +14,7 @@ constexpr double kTitleSize = 14; // points
 constexpr double kTextSize = 9;
 constexpr double kTitleHeight = 32; // pixels
 constexpr double kLineHeight = 16;
-constexpr double kSpace = 14;      // between the parts of the page
+constexpr double kPartSpace = 14;  // between the parts of the page
 constexpr double kLoadShare = 0.4; // of the height that the texts leave
 constexpr double kTallest = 330;   // higher pictures leave the page's rest empty
 
@@ -48,7 +48,7 @@ void frmBeamDiagrams::PrintPage(screen::Printer& printer, const std::string& tit
     KeepStiffness();
     stale_ = true;
     Recompute();
-    PrintDiagrams(printer, PrintTexts(printer, title) + kSpace);
+    PrintDiagrams(printer, PrintTexts(printer, title) + kPartSpace);
 }
 
 /// The title, and what stands beside the diagrams on the screen; hands back where they end.
@@ -92,16 +92,16 @@ std::vector<std::string> frmBeamDiagrams::PrintedNotes() const
 
 void frmBeamDiagrams::PrintDiagrams(screen::Printer& printer, double top)
 {
-    const double rest = printer.Height() - top - 2 * kSpace;
+    const double rest = printer.Height() - top - 2 * kPartSpace;
     const double load = std::min(kTallest, rest * kLoadShare);
     const double curve = std::min(kTallest, (rest - load) / 2);
     DrawLoadDiagram(*Sheet(printer, top, load), CurrentBeam, CurrentReactions, ShownDiagramUnits,
                     LoadCaseShown());
-    top += load + kSpace;
+    top += load + kPartSpace;
     for (const Diagram diagram : ShownCurves()) {
         DrawCurveDiagram(*Sheet(printer, top, curve), CurveKind(int(diagram)), CurrentBeam, curves_,
                          ShownDiagramUnits, CurrentPoint.X);
-        top += curve + kSpace;
+        top += curve + kPartSpace;
     }
 }
 
