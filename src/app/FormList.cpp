@@ -1,5 +1,11 @@
 #include "app/FormList.h"
 
+#include "beams/forms/frmAllowable.h"
+#include "beams/forms/frmBeamDiagrams.h"
+#include "beams/forms/frmBeamStuf.h"
+#include "beams/forms/frmDetails.h"
+#include "beams/forms/frmReverseShear.h"
+#include "beams/forms/frmStiffPrint.h"
 #include "core/MainModule.h"
 #include "core/forms/frmAbout.h"
 #include "core/forms/frmMainMenu.h"
@@ -35,6 +41,12 @@ void RegisterForms()
     Register<transform::frmFailure>("frmFailure");
     Register<sections::frmProperties>("frmProperties");
     Register<sections::frmCrossSection>("frmCrossSection");
+    Register<beams::frmBeamStuf>("frmBeamStuf");
+    Register<beams::frmBeamDiagrams>("frmBeamDiagrams");
+    Register<beams::frmDetails>("frmDetails");
+    Register<beams::frmAllowable>("frmAllowable");
+    Register<beams::frmReverseShear>("frmReverseShear");
+    Register<beams::frmStiffPrint>("frmStiffPrint");
     Register<general::frmLinSolve>("frmLinSolve");
     Register<truss::frmTruss>("frmTruss");
     Register<truss::frmDefGrid>("frmDefGrid");

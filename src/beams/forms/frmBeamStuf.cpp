@@ -256,7 +256,6 @@ void frmBeamStuf::mnuSectionProperties_Click()
 
 void frmBeamStuf::mnuStressForm_Click()
 {
-    mnuStress->setVisible(Forms::IsKnown("frmDetails"));
     mnuStress->setEnabled(sections::CurrentSection.ShapeIndex > 0);
 }
 
