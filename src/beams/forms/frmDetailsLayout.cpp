@@ -283,9 +283,10 @@ void frmDetailsLayout::FitWindow()
         layout->invalidate(); // it may have been measured with other parts visible
         layout->activate();
     }
-    const QSize least = scroll_->widget()->minimumSizeHint();
-    const QSize wish(std::max(least.width() + bar, stressPart_ ? 0 : kPlainWidth),
-                     stressPart_ ? kHighest : least.height() + menuBar()->sizeHint().height());
+    const int width = scroll_->widget()->minimumSizeHint().width() + bar;
+    const int plain =
+        everything_->totalHeightForWidth(kPlainWidth) + menuBar()->sizeHint().height();
+    const QSize wish = stressPart_ ? QSize(width, kHighest) : QSize(kPlainWidth, plain);
     resize(wish.boundedTo(desk.size()));
 }
 

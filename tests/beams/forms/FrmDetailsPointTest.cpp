@@ -118,6 +118,8 @@ TEST_F(PointForm, WithoutASectionItSaysWhereToGetOne)
     for (const char* part : {"fraVM", "fraCoord", "fraStressUnits", "cmdVM(0)", "picST(0)"})
         EXPECT_FALSE(IsVisible(part)) << part;
     EXPECT_LE(TheForm().width(), 440);
+    const auto& area = *TheForm().findChild<QScrollArea*>();
+    EXPECT_EQ(area.verticalScrollBar()->maximum(), 0); // nothing is cut off
     Forms::Hide("frmDetails");
     TakeSection(test::Tee());
     Open("frmDetails");
