@@ -127,7 +127,8 @@ class CirclePicture {
         figure_.Dot({state_.AbsMaxCentre, state_.AbsMaxShear}, ShearColour(state_));
     }
 
-    void Name(PicturePoint at, Quantity quantity, double side, Colour ink)
+    /// "Sigma 1 = 70.0", with a Greek letter where the system has it.
+    void PicMohrGreek(PicturePoint at, Quantity quantity, double side, Colour ink)
     {
         const Label value = Plain(QuantityText(state_, entry_, quantity));
         figure_.Text(at, Joined(QuantityName(entry_.Mode, quantity), value), side, ink);
@@ -135,18 +136,19 @@ class CirclePicture {
 
     void LabelPrincipals()
     {
-        Name({state_.PrincipalOne, 0}, Quantity::One, -kPi / 4, kMainColour);
-        Name({state_.PrincipalTwo, 0}, Quantity::Two, -3 * kPi / 4, kMainColour);
-        if (three_) Name({state_.PrincipalThree, 0}, Quantity::Three, -3 * kPi / 4, kMainColour);
+        PicMohrGreek({state_.PrincipalOne, 0}, Quantity::One, -kPi / 4, kMainColour);
+        PicMohrGreek({state_.PrincipalTwo, 0}, Quantity::Two, -3 * kPi / 4, kMainColour);
+        if (three_)
+            PicMohrGreek({state_.PrincipalThree, 0}, Quantity::Three, -3 * kPi / 4, kMainColour);
     }
 
     /// Where there are two, one stands outside and one inside, each beside its own dot.
     void LabelShears()
     {
         if (three_)
-            Name({state_.AbsMaxCentre, state_.AbsMaxShear}, Quantity::AbsMaxShear, kUp,
-                 ShearColour(state_));
-        Name(ShearTop(), Quantity::MaxShear, three_ ? kDown : kUp, ShearColour(state_));
+            PicMohrGreek({state_.AbsMaxCentre, state_.AbsMaxShear}, Quantity::AbsMaxShear, kUp,
+                         ShearColour(state_));
+        PicMohrGreek(ShearTop(), Quantity::MaxShear, three_ ? kDown : kUp, ShearColour(state_));
     }
 
     void LabelAngle()

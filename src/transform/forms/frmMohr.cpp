@@ -200,7 +200,8 @@ void frmMohr::picXprime_MouseUp(const screen::MouseAction& mouse)
     cmdRotater_click();
 }
 
-// Everything that names the angle follows; the scroll bar stands at the position below it.
+// Everything that names the angle follows; the scroll bar stands at the last whole
+// position before it.
 void frmMohr::TurnTo(double degrees, const std::string& shownAs)
 {
     StressState turned = CurrentStress;
