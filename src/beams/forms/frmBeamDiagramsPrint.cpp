@@ -75,14 +75,15 @@ std::vector<std::string> frmBeamDiagrams::PrintedNotes() const
 {
     const DiagramUnits& units = ShownDiagramUnits;
     const auto in = [](const char* quantity, std::string_view unit) {
-        return quantity + std::string(unit);
+        return quantity + std::string(" (") + std::string(unit) + ")";
     };
-    std::string line = in("Length in ", kLengthUnits.at(units.Length));
-    line += CurrentPoint.SlopeView
-                ? in(", slope in ", kSlopeUnits.at(units.Slope)) +
-                      in(", deflection in ", kDeflectionUnits.at(units.Deflection))
-                : in(", force in ", kForceUnits.at(units.Force)) +
-                      in(", moment in ", kMomentUnits.at(units.Moment));
+    std::string line = in("Length", kLengthUnits.at(units.Length));
+    if (CurrentPoint.SlopeView)
+        line += in(", slope", kSlopeUnits.at(units.Slope)) +
+                in(", deflection", kDeflectionUnits.at(units.Deflection));
+    else
+        line += in(", force", kForceUnits.at(units.Force)) +
+                in(", moment", kMomentUnits.at(units.Moment));
     std::vector<std::string> notes{line};
     for (const auto& [index, message] : lblEIMessage.Members())
         if (CurrentPoint.SlopeView && !message->isHidden()) notes.push_back(message->Caption());

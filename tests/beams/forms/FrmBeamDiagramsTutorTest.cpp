@@ -330,6 +330,18 @@ TEST_F(DiagramPage, LeavesTheScreenAsItWas)
     EXPECT_EQ(Hint(), hint);
 }
 
+TEST_F(DiagramPage, AFailedPlotIsNotPrinted)
+{
+    MetreBeam();
+    QTest::qWait(10);
+    CurrentBeam.LoadMagnitude[2][kUnfactored] = 1e308; // its moments overflow
+    CurrentBeam.BeamLength = CurrentBeam.SupportB = 1e6;
+    Messages->AcceptAny = true; // the pictures on the screen tell of it too
+    PrintTo(folder_.filePath("page.pdf"));
+    ASSERT_FALSE(Messages->Shown.empty());
+    EXPECT_EQ(Messages->Shown.back().Title, "Shear Diagram Error Message");
+}
+
 TEST_F(DiagramPage, CancelPrintsNothing)
 {
     MetreBeam();
