@@ -24,6 +24,7 @@ struct Step {
         Drag,    ///< draws with the left button on a picture, in its scale
         Hold,    ///< the same without letting the button go
         Tick,    ///< lets a timer come so many times, which then stands still
+        On,      ///< steps on a form that the steps before have opened
         Answer,  ///< steps on the modal form that the next step brings up
         Message, ///< the message, by its title, that the next step brings up
         Keep,    ///< the form as it is now is the scene's picture
@@ -43,6 +44,7 @@ Step Key(const std::string& name, const std::string& letters);
 Step Drag(const std::string& name, QPointF from, QPointF to);
 Step Hold(const std::string& name, QPointF from, QPointF to);
 Step Tick(const std::string& name, int times);
+Step On(const std::string& form, const Steps& steps);
 Step Answer(const std::string& form, const Steps& steps);
 Step Message(const std::string& title, bool keep = false); ///< kept with the form behind it
 Step Keep();
@@ -68,6 +70,7 @@ std::vector<Scene> SectionScenes();
 std::vector<Scene> ReportScenes();
 std::vector<Scene> EquationScenes();
 std::vector<Scene> TrussScenes();
+std::vector<Scene> BeamScenes();
 
 /// Tells what went wrong; the gallery then ends with a failure.
 void Complain(const std::string& what);

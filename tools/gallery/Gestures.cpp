@@ -59,6 +59,13 @@ void LetTick(const Form& form, const Step& step)
     for (int i = 0; i < std::stoi(step.Value); ++i) QMetaObject::invokeMethod(timer, "timeout");
 }
 
+void DoOn(const Step& step)
+{
+    if (!Forms::IsVisible(step.Name)) return Complain("no form " + step.Name);
+    for (const Step& inner : step.Inner) Do(*Forms::Load(step.Name), inner);
+    QCoreApplication::processEvents();
+}
+
 void DoWhenShown(const Step& step, int tries)
 {
     QTimer::singleShot(0, qApp, [=] {
@@ -120,6 +127,11 @@ Step Tick(const std::string& name, int times)
     return {Step::Kind::Tick, name, std::to_string(times)};
 }
 
+Step On(const std::string& form, const Steps& steps)
+{
+    return {Step::Kind::On, form, "", {}, {}, steps};
+}
+
 Step Answer(const std::string& form, const Steps& steps)
 {
     return {Step::Kind::Answer, form, "", {}, {}, steps};
@@ -140,6 +152,8 @@ void Gesture(const Form& form, const Step& step)
     switch (step.What) {
     case Step::Kind::Tick:
         return LetTick(form, step);
+    case Step::Kind::On:
+        return DoOn(step);
     case Step::Kind::Answer:
         return DoWhenShown(step, kTries);
     case Step::Kind::Message:

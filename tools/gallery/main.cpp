@@ -27,7 +27,7 @@ void DrawHelp(const QDir& folder)
     forcelab::screen::HelpViewer viewer;
     viewer.resize(860, 1100);
     viewer.show();
-    for (const int topic : {1, 3000, 6000}) {
+    for (const int topic : {1, 2000, 3000, 4000, 6000}) {
         viewer.OpenTopic(topic);
         Save(viewer, folder, ("help-" + std::to_string(topic)).c_str());
     }
@@ -47,7 +47,7 @@ int main(int argc, char** argv)
     SetServices();
     forcelab::RegisterForms();
     for (const auto& scenes : {MenuScenes(), MohrScenes(), FailureScenes(), SectionScenes(),
-                               ReportScenes(), EquationScenes(), TrussScenes()}) {
+                               ReportScenes(), EquationScenes(), TrussScenes(), BeamScenes()}) {
         for (const Scene& scene : scenes) Draw(scene, folder);
     }
     DrawHelp(folder);
