@@ -8,6 +8,7 @@
 
 #include <QApplication>
 #include <QMouseEvent>
+#include <QPushButton>
 
 #include <benchmark/benchmark.h>
 
@@ -20,19 +21,18 @@ namespace {
 using namespace forcelab;
 using namespace forcelab::truss;
 
-/// 24 bays with parallel chords, 97 members, on a grid of 50 x 50 spaces.
-TrussModel TwentyFourBays()
+/// Bays with parallel chords on a grid of 50 x 50 spaces; 24 of them have 97 members.
+TrussModel Bays(int count)
 {
-    constexpr int kBays = 24;
     TrussModel model;
     model.GridSpacesX = model.GridSpacesY = 50;
     MakeTrussGridCoords(model);
     const auto add = [&model](int i1, int j1, int i2, int j2) {
         AddMember(model, model.PointAt(i1, j1), model.PointAt(i2, j2));
     };
-    for (int i = 0; i <= kBays; ++i) {
+    for (int i = 0; i <= count; ++i) {
         add(i, 0, i, 1);
-        if (i == kBays) break;
+        if (i == count) break;
         add(i, 0, i + 1, 0);
         add(i, 1, i + 1, 1);
         add(i, 0, i + 1, 1);
@@ -40,20 +40,20 @@ TrussModel TwentyFourBays()
     }
     TrussGridPoint& pin = model.GridPoints[model.PointAt(0, 0)];
     pin.SupportX = pin.SupportY = 1;
-    model.GridPoints[model.PointAt(kBays, 0)].SupportY = 1;
+    model.GridPoints[model.PointAt(count, 0)].SupportY = 1;
     return model;
 }
 
 void Analyze(benchmark::State& state)
 {
-    TrussModel model = TwentyFourBays();
+    TrussModel model = Bays(24);
     for (auto _ : state) benchmark::DoNotOptimize(AnalyzeTruss(model));
 }
 BENCHMARK(Analyze)->Unit(benchmark::kMicrosecond);
 
 void Explain(benchmark::State& state)
 {
-    TrussModel model = TwentyFourBays();
+    TrussModel model = Bays(24);
     const TrussAnalysis analysis = AnalyzeTruss(model);
     for (auto _ : state) benchmark::DoNotOptimize(ExplainTruss(model, analysis.Results));
 }
@@ -61,14 +61,14 @@ BENCHMARK(Explain)->Unit(benchmark::kMicrosecond);
 
 void MarkPoints(benchmark::State& state)
 {
-    TrussModel model = TwentyFourBays();
+    TrussModel model = Bays(24);
     for (auto _ : state) MarkInteriorPoints(model);
 }
 BENCHMARK(MarkPoints)->Unit(benchmark::kMicrosecond);
 
 void Draw(benchmark::State& state)
 {
-    const TrussModel model = TwentyFourBays();
+    const TrussModel model = Bays(24);
     for (auto _ : state) {
         RecordingPicture pic(900, 600);
         DrawTruss(pic, model);
@@ -133,6 +133,18 @@ void Redraw(benchmark::State& state)
     for (auto _ : state) picture.PaintNow();
 }
 BENCHMARK(Redraw)->Arg(0)->Arg(20)->Arg(30)->Arg(40)->Arg(100)->Unit(benchmark::kMillisecond);
+
+/// The results of a truss of so many bays, with all their labels.
+void RedrawResults(benchmark::State& state)
+{
+    screen::PictureBox& picture = OpenWith(Bays(static_cast<int>(state.range(0))));
+    auto& compute = dynamic_cast<QPushButton&>(
+        *picture.window()->findChild<QPushButton*>(QStringLiteral("cmdSpacing(1)")));
+    compute.setEnabled(true);
+    compute.click();
+    for (auto _ : state) picture.PaintNow();
+}
+BENCHMARK(RedrawResults)->Arg(5)->Arg(9)->Arg(24)->Unit(benchmark::kMillisecond);
 
 } // namespace
 

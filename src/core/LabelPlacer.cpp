@@ -18,6 +18,7 @@ constexpr double kCrossingCost = 60;    // the same for each line crossed
 constexpr double kStrikeCost = 120;     // the same for each label that the leader would cross
 constexpr double kLeaderCrossing = 25;  // the same for each line that it would cross
 constexpr double kSheetStep = 6;        // pixels, of the search over the whole sheet
+constexpr double kCoarseSteps = 4;      // of the first look over it
 constexpr double kFarCost = 15;         // what leaving the neighbourhood is worth
 constexpr double kLeaderFree = 5;       // pixels from its point where it crosses nothing
 constexpr double kGap = 1.5;            // pixels between labels and to the sheet's edge
@@ -182,17 +183,16 @@ std::optional<LabelPlacer::Found> LabelPlacer::SearchNear(PicturePoint at, Size 
     return best;
 }
 
-std::optional<LabelPlacer::Found> LabelPlacer::SearchSheet(PicturePoint at, Size size) const
+void LabelPlacer::SearchSheet(std::optional<Found>& best, PicturePoint at, Size size,
+                              double step) const
 {
-    std::optional<Found> best;
-    for (double y = kGap; y + size.Height <= pic_.HeightPixels(); y += kSheetStep)
-        for (double x = kGap; x + size.Width <= pic_.WidthPixels(); x += kSheetStep) {
+    for (double y = kGap; y + size.Height <= pic_.HeightPixels(); y += step)
+        for (double x = kGap; x + size.Width <= pic_.WidthPixels(); x += step) {
             const Box box{x, y, x + size.Width, y + size.Height};
             const double dx = std::max({0.0, box.X1 - at.X, at.X - box.X2});
             const double dy = std::max({0.0, box.Y1 - at.Y, at.Y - box.Y2});
             Consider(best, box, kFarCost + std::hypot(dx, dy), &at);
         }
-    return best;
 }
 
 std::optional<LabelPlacer::Found> LabelPlacer::Search(const LabelAnchor& anchor, Size size,
@@ -200,9 +200,10 @@ std::optional<LabelPlacer::Found> LabelPlacer::Search(const LabelAnchor& anchor,
 {
     const PicturePoint at = pic_.ToPixels(anchor.At);
     std::optional<Found> best = SearchNear(at, size, anchor.Angle, mayLeave);
-    if (!best || (mayLeave && !best->Clear)) {
-        const auto far = SearchSheet(at, size);
-        if (far && (!best || far->Cost < best->Cost)) best = far;
+    if (mayLeave && (!best || !best->Clear)) {
+        // What is found first bounds the search, or it would take long.
+        if (!best) SearchSheet(best, at, size, kCoarseSteps * kSheetStep);
+        SearchSheet(best, at, size, kSheetStep);
     }
     if (best) best->Names = at;
     return best;

@@ -67,7 +67,8 @@ class LabelPlacer {
                   const PicturePoint* at) const;
     [[nodiscard]] std::optional<Found> SearchNear(PicturePoint at, Size size, double angle,
                                                   bool leader) const;
-    [[nodiscard]] std::optional<Found> SearchSheet(PicturePoint at, Size size) const;
+    /// Takes a better place than the best so far from all over the sheet.
+    void SearchSheet(std::optional<Found>& best, PicturePoint at, Size size, double step) const;
     [[nodiscard]] std::optional<Found> Search(const LabelAnchor& anchor, Size size,
                                               bool mayLeave) const;
     [[nodiscard]] std::optional<Found> Best(const LabelWish& wish);

@@ -24,6 +24,7 @@ constexpr double kArrowWidth = 3;
 constexpr double kIdle = 0.001;               // sizes up to it count as no force
 constexpr double kNoise = 1e-9;               // of the largest reaction
 constexpr std::size_t kMostForAllLabels = 40; // members
+constexpr std::size_t kAlwaysAllLabels = 20;  // members
 constexpr double kMotionShare = 0.4;          // of a spacing
 constexpr std::array<int, 5> kTickSteps{1, 2, 5, 10, 25};
 constexpr double kTickGap = 1.25;
@@ -82,18 +83,27 @@ void DrawLevelMarks(Picture& pic, const TrussModel& model)
     }
 }
 
-/// Then force labels stand on their members, smaller, and those without room are left out.
-bool IsCrowded(const TrussModel& model)
-{
-    return model.Members().size() > kMostForAllLabels;
-}
-
 /// Vector from a member's start to its end.
 PicturePoint Run(const TrussModel& model, const TrussMember& member)
 {
     const TrussGridPoint& a = model.GridPoints[member.FromPoint];
     const TrussGridPoint& b = model.GridPoints[member.ToPoint];
     return {static_cast<double>(b.X) - a.X, static_cast<double>(b.Y) - a.Y};
+}
+
+/// Then force labels stand on their members, smaller, and those without room are left out: where
+/// there are many members, or fewer that are shorter on the sheet than their labels.
+bool IsCrowded(const Picture& pic, const TrussModel& model)
+{
+    const auto members = model.Members();
+    if (members.size() <= kAlwaysAllLabels) return false;
+    double length = 0;
+    for (const TrussMember& member : members) {
+        const PicturePoint run = Run(model, member);
+        length += std::hypot(pic.ScaleX(run.X), pic.ScaleY(run.Y));
+    }
+    const double label = pic.ScaleX(pic.TextWidth("000.00 (C)"));
+    return members.size() > kMostForAllLabels || length < label * members.size();
 }
 
 void DrawMember(TrussSheet& sheet, const TrussModel& model, const TrussMember& member)
@@ -131,7 +141,7 @@ WaitingLabels DrawAngles(TrussSheet& sheet, const TrussModel& model)
     sheet.Take(kMemberColour, 1);
     for (const TrussMember& member : model.Members()) {
         const PicturePoint run = Run(model, member);
-        if (run.X == 0 || (run.Y == 0 && IsCrowded(model))) continue;
+        if (run.X == 0 || (run.Y == 0 && IsCrowded(sheet.Pic(), model))) continue;
         const int ring = ++rings[{member.FromPoint, run.Y > 0}];
         const TrussGridPoint& from = model.GridPoints[member.FromPoint];
         const double degrees = std::atan(std::abs(run.Y / run.X)) * 180 / kPi;
@@ -196,7 +206,7 @@ std::vector<PicturePoint> LabelPlaces(Picture& pic, const TrussModel& model,
         return PicturePoint{from.X + share * run.X,
                             from.Y + share * run.Y + rows * pic.TextHeight("0")};
     };
-    if (IsCrowded(model) && run.Y == 0)
+    if (IsCrowded(pic, model) && run.Y == 0)
         return {at(0.5, 1), at(0.5, -1), at(0.5, 2.2), at(0.5, -2.2)};
     std::vector<PicturePoint> places;
     for (const double share : {0.5, 0.4, 0.6, 0.3, 0.7, 0.2, 0.8}) places.push_back(at(share, 0));
@@ -305,7 +315,7 @@ void DrawTruss(Picture& pic, const TrussModel& model)
     const WaitingLabels angles = DrawAngles(sheet, model);
     DrawSupports(sheet, model, joints);
     Place(sheet, DrawLoads(sheet, model, joints), LabelNeed::Anywhere);
-    if (IsCrowded(model))
+    if (IsCrowded(pic, model))
         PlaceOn(sheet, angles);
     else
         Place(sheet, angles, LabelNeed::IfRoom);
@@ -316,7 +326,7 @@ void DrawTrussResults(Picture& pic, const TrussModel& model, const TrussResults&
                       double memberWidth, double jointWidth)
 {
     const double base = pic.FontSize;
-    const bool crowded = IsCrowded(model);
+    const bool crowded = IsCrowded(pic, model);
     TrussSheet sheet(pic, model);
     sheet.KeepOffCoordinates(WidestTick(pic, model.GridSpacesY, model.GridSpacingY));
     const WaitingLabels forces = DrawForces(sheet, model, results, memberWidth);

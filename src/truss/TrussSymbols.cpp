@@ -62,6 +62,9 @@ void TrussSheet::Label(const std::vector<PicturePoint>& places, double angle,
     wish.Ink = IndexedColour(colour);
     wish.Needed = need != LabelNeed::IfRoom;
     wish.Leader = need == LabelNeed::Anywhere;
+    if (placer_.Place(wish) || need != LabelNeed::Beside) return;
+    wish.Anchors.resize(1);
+    wish.Leader = true;
     placer_.Place(wish);
 }
 

@@ -22,8 +22,9 @@ inline constexpr int kRestColour = 8;
 inline constexpr int kLetterColour = 4;
 inline constexpr int kLabelColour = 0;
 
-/// How far a label may go for room: left out where it has none beside its point; always there and
-/// beside its point, even across a line; or anywhere, with a thin line to its point.
+/// How far a label may go for room: left out where it has none beside its point; beside its point
+/// even across a line, and elsewhere only where other labels are in the way; or anywhere. A thin
+/// line leads from a label that is far away to its point.
 enum class LabelNeed { IfRoom, Beside, Anywhere };
 
 /// A sheet with a truss on it: draws lines and keeps labels off them. Lines first, labels last.
