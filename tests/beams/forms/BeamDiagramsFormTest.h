@@ -26,7 +26,7 @@ class BeamDiagramsFormTest : public BeamStufFormTest {
     screen::Form& Entry() { return Use("frmBeamStuf"); }
     screen::Form& Diagrams() { return Use("frmBeamDiagrams"); }
 
-    /// A cantilever in a length unit; typ is 1 for the left end fixed, 2 for the right end.
+    /// A cantilever in a length unit; type is 1 for the left end fixed, 2 for the right end.
     void DefineCantilever(int type, const std::string& length, int unit)
     {
         Open("frmBeamStuf");

@@ -19,8 +19,8 @@ using testing::IsEmpty;
 /// Mouse, explanations and printing.
 class DiagramTutor : public BeamDiagramsFormTest {
   protected:
-    /// The place of load `name` on the load diagram: under its label's leader, where its arrow is.
-    static constexpr double kAboveBeam = 12; // pixels above the upper edge of the beam
+    // Heights on the load diagram, where y runs from the upper edge of the beam.
+    static constexpr double kAboveBeam = 12; // pixels
     static constexpr double kInBand = -5;
     static constexpr double kAtReaction = -40;
 
