@@ -38,16 +38,6 @@ Narration& Narration::Line(std::string_view text)
     return *this;
 }
 
-Narration& Narration::Chain(std::initializer_list<std::string_view> terms)
-{
-    std::string line;
-    for (const std::string_view term : terms) {
-        if (!line.empty()) line += MainModule::EqualsText;
-        line += term;
-    }
-    return Line(line);
-}
-
 std::string Times(std::string_view a, std::string_view b)
 {
     return std::string(a) + MainModule::TimesText + std::string(b);

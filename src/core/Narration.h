@@ -1,22 +1,18 @@
 #pragma once
 
-#include <initializer_list>
 #include <string>
 #include <string_view>
 
 namespace forcelab {
 
-/// Builds the text of an explanation: headings, sentences and lines of arithmetic.
-///
-/// Lines end in CrLf. Numbers come in as text, the very strings that the boxes show.
+/// Builds the text of an explanation: headings, sentences and lines, which end in CrLf.
+/// Lines of arithmetic come from `WriteLine`.
 class Narration {
   public:
     Narration& Heading(std::string_view text);  ///< a line of its own with a blank line before it
     Narration& Sentence(std::string_view text); ///< goes on in the same paragraph, after a blank
     Narration& Line(std::string_view text);     ///< a line of its own
     Narration& Paragraph();                     ///< leaves an empty line
-    /// "name = a = b = c": a line of arithmetic, from left to right.
-    Narration& Chain(std::initializer_list<std::string_view> terms);
     [[nodiscard]] const std::string& Text() const { return text_; }
 
   private:

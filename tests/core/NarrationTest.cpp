@@ -39,13 +39,6 @@ TEST(Narration, HeadingHasAnEmptyLineBeforeIt)
     EXPECT_EQ(text.Text(), "Given\r\nP = 5 kips\r\n\r\nFound\r\nStress.");
 }
 
-TEST(Narration, ChainJoinsWithEqualSigns)
-{
-    Narration text;
-    text.Chain({"A", Times("2", "3"), WithUnit("6", "in")}).Chain({"B"}).Chain({});
-    EXPECT_EQ(text.Text(), "A = 2 × 3 = 6 in\r\nB\r\n\r\n");
-}
-
 TEST(Narration, PiecesOfArithmetic)
 {
     EXPECT_EQ(Times("a", "b"), "a × b");
