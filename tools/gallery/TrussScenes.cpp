@@ -47,6 +47,7 @@ Steps Down(QPointF joint, const char* size)
 Steps Bridge(int bays)
 {
     std::vector<Bar> bars;
+    bars.reserve(std::size_t(4) * bays);
     const auto low = [](int i) { return QPointF(5.0 * i, 0); };
     const auto high = [](int i) { return QPointF(5.0 * i, 5); };
     for (int i = 0; i < bays; ++i) bars.push_back({low(i), low(i + 1)});
@@ -106,8 +107,8 @@ Steps Mechanism()
            PinAndRoller({0, 0}, {8, 0}) + Steps{Drag(kPicture, {8, 0}, {9, 0})} + Down({8, 4}, "6");
 }
 
-/// As many members as a truss may have.
-Steps Hundred()
+/// Nearly as many members as a truss may have: 99.
+Steps NinetyNine()
 {
     std::vector<Bar> bars;
     for (double x = 0; x < 24; ++x) {
@@ -160,8 +161,8 @@ std::vector<Scene> TrussScenes()
          kUsual,
          {},
          Bridge(6) + kCompute + Steps{Answer("frmTrussStress", areas), Menu("mnuTrussStress")}},
-        {"truss-hundred", kForm, kUsual, {}, Hundred() + kCompute},
-        {"truss-hundred-editing", kForm, kUsual, {}, Hundred()},
+        {"truss-99", kForm, kUsual, {}, NinetyNine() + kCompute},
+        {"truss-99-editing", kForm, kUsual, {}, NinetyNine()},
     };
 }
 
