@@ -151,8 +151,10 @@ Form* Forms::Active()
 
 void Forms::BecameActive(Form& form)
 {
-    // A box or dialog that closes gives the focus back to its form; that is no activation.
-    if (TheRegistry().Active == &form || Loaded(form.objectName().toStdString()) != &form) return;
+    // A box or dialog that closes gives the focus back to its form; that is no activation. Nor is
+    // what the window system still had to say to a form that has been hidden since.
+    if (TheRegistry().Active == &form || !form.isVisible()) return;
+    if (Loaded(form.objectName().toStdString()) != &form) return;
     TheRegistry().Active = &form;
     form.Guard([&form] { form.Form_Activate(); });
 }

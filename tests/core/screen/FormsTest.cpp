@@ -63,6 +63,17 @@ class FormLife : public FormTest {
     }
 };
 
+TEST_F(FormLife, AHiddenFormDoesNotBecomeActive)
+{
+    Forms::Show("frmA");
+    Forms::Hide("frmA");
+    Events.clear();
+    QEvent late(QEvent::WindowActivate);
+    QCoreApplication::sendEvent(Forms::Load("frmA"), &late);
+    EXPECT_TRUE(Events.empty());
+    EXPECT_EQ(Forms::Active(), nullptr);
+}
+
 TEST_F(FormLife, AFormComesIntoBeingOnFirstUse)
 {
     EXPECT_TRUE(Forms::IsKnown("frmA"));
