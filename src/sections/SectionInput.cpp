@@ -28,12 +28,14 @@ Refusal Refuse(std::string_view text, int box)
     return {kStop, "Section Properties Error", std::string(text), focus};
 }
 
-/// The sizes in the shown boxes; a sign is dropped.
-Values ReadBoxes(const ShapeInfo& info, const SectionEntry& entry)
+/// The sizes in the shown boxes; a sign is dropped. The diameter of a round shape counts as it is
+/// written back, so that a second Compute finds the same.
+Values ReadBoxes(int shape, const ShapeInfo& info, const SectionEntry& entry)
 {
     Values values{};
     for (int box = 0; box < kBoxes; ++box)
         if (info.Box[box]) values[box] = std::abs(StringValue(entry.Box[box]));
+    if (IsRound(shape)) values[0] = StringValue(Format(values[0], kDiameterMask));
     return values;
 }
 
@@ -67,7 +69,7 @@ constexpr FitRule kFitRules[]{
     {kSteelPipe, 0, 1, 1, false, kInnerCircle},
     {kHat, 0, 3, 2, true, "The sum of the stem thicknesses cannot exceed the top flange width."},
     {kDoubleCToe, 4, 0, 2, true,
-     "\r\nThe sum of the flange widths cannot exceed\r\n"
+     "\rThe sum of the flange widths cannot exceed\r"
      "the distance from channel back to channel back."},
     {kBox, 0, 2, 1, true, kInnerRectangle},
     {kBox, 1, 3, 1, true, kInnerRectangle},
@@ -111,7 +113,7 @@ std::optional<Refusal> CheckEntry(CrossSection& section, SectionEntry& entry)
 {
     const int shape = section.ShapeIndex;
     const ShapeInfo& info = InfoOf(shape);
-    const Values values = ReadBoxes(info, entry);
+    const Values values = ReadBoxes(shape, info, entry);
     if (auto refusal = CheckAllGiven(info, values, IsSteel(shape) && !entry.Steel)) return refusal;
     if (auto refusal = CheckFit(shape, values)) return refusal;
     if (auto refusal = CheckMaterials(section, entry)) return refusal;

@@ -63,13 +63,12 @@ INSTANTIATE_TEST_SUITE_P(
                 {"4", "1", "6", "2.5", "3", "1"},
                 "The sum of the stem thicknesses cannot exceed the top flange width.",
                 "txtShape(3)"},
-        Refused{
-            "ToesThatCross",
-            "mnuDouble(2)",
-            {"3", "1", "8", "1", "5"},
-            "\r\nThe sum of the flange widths cannot exceed\r\nthe distance from channel back to "
-            "channel back.",
-            "txtShape(0)"},
+        Refused{"ToesThatCross",
+                "mnuDouble(2)",
+                {"3", "1", "8", "1", "5"},
+                "\rThe sum of the flange widths cannot exceed\rthe distance from channel back to "
+                "channel back.",
+                "txtShape(0)"},
         Refused{"HollowTooWide",
                 "mnuRectangular(1)",
                 {"4", "6", "5", "2"},
