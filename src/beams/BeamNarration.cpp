@@ -83,17 +83,44 @@ std::string ReasonForShear(const PieceTeller& teller, double x)
                : "a uniform load ends or changes its direction there";
 }
 
+/// Where a quantity has its extreme: one point, or a stretch along which it stays.
+struct Stretch {
+    double From, To;
+    [[nodiscard]] bool IsPoint() const { return To - From <= 2 * kLeftOfJump; }
+};
+
+/// The first place of a value among the samples; what differs by rounding counts as equal.
+Stretch PlaceOf(const PieceTeller& teller, const CurveList& values, double value, double noise)
+{
+    const auto has = [&](int k) { return std::abs(values[k] - value) <= noise; };
+    int first = 1;
+    while (first < kCurvePoints && !has(first)) ++first;
+    int last = first;
+    while (last < kCurvePoints && has(last + 1)) ++last;
+    return {teller.Curves.CurveX[first], teller.Curves.CurveX[last]};
+}
+
+std::string TellPlace(const PieceTeller& teller, const Stretch& place, bool moment)
+{
+    if (place.IsPoint())
+        return " at " + teller.Position(place.From) + ": " +
+               (moment ? ReasonForMoment(teller, place.From) : ReasonForShear(teller, place.From));
+    return " from " + LengthText(place.From, teller.Units) + " to " + teller.Position(place.To) +
+           ": " + (moment ? "the shear is zero along it" : "no load is spread along it");
+}
+
 void TellExtreme(const PieceTeller& teller, const std::string& what, int row)
 {
     const auto& table = teller.Curves.ShearMomentExtremes;
     const bool moment = row >= kSecondSize;
     const double value = table[2][row];
-    const double x = table[1][row];
-    if (std::abs(value) <= kNoise * table[2][moment ? kSecondSize : kFirstSize]) return;
+    const double noise = kNoise * table[2][moment ? kSecondSize : kFirstSize];
+    if (std::abs(value) <= noise) return;
+    const CurveList& values = moment ? teller.Curves.CurveMoment : teller.Curves.CurveShear;
+    const Stretch place = PlaceOf(teller, values, value, noise);
     teller.Text.Line("The " + what + " is " +
-                     (moment ? teller.MomentShown(value) : teller.ForceShown(value)) + " at " +
-                     teller.Position(x) + ": " +
-                     (moment ? ReasonForMoment(teller, x) : ReasonForShear(teller, x)) + ".");
+                     (moment ? teller.MomentShown(value) : teller.ForceShown(value)) +
+                     TellPlace(teller, place, moment) + ".");
 }
 
 void TellExtremes(const PieceTeller& teller)

@@ -15,7 +15,8 @@ struct MomentSum {
 
 /// Which sense counts positive about which point.
 struct Axis {
-    std::string Name; ///< "A" or "B"
+    std::string Name; ///< "A" or "B", as the reaction there
+    std::string At;   ///< "a" or "b", its x
     double X;
     bool Counterclockwise;
 };
@@ -41,9 +42,11 @@ class ReactionTeller : public BeamTeller {
         Text.Sentence("Cut the beam free of its supports and let the forces A and B act upward in "
                       "their place. Two equations of moments give them, a sum of forces checks "
                       "them.");
+        Text.Line("They stand at a = " + Position(Beam.SupportA) +
+                  " and b = " + Position(Beam.SupportB) + ".");
         ListResultants();
-        SolveOne({"B", Beam.SupportB, true}, "A", Reactions.ReactionA[Case]);
-        SolveOne({"A", Beam.SupportA, false}, "B", Reactions.ReactionB[Case]);
+        SolveOne({"B", "b", Beam.SupportB, true}, "A", Reactions.ReactionA[Case]);
+        SolveOne({"A", "a", Beam.SupportA, false}, "B", Reactions.ReactionB[Case]);
         CheckForces();
     }
 
@@ -58,7 +61,7 @@ class ReactionTeller : public BeamTeller {
                       " positive, balance that of " + unknown + ".");
         const MomentSum sum = ListMoments(axis);
         Total(axis, sum);
-        ForceLine(unknown, "Sum ÷ (B - A)",
+        ForceLine(unknown, "Sum ÷ (b - a)",
                   Moment(sum.Exact) / Distance(Beam.SupportA, Beam.SupportB));
         TellDirection(unknown, reaction);
     }
@@ -77,7 +80,7 @@ class ReactionTeller : public BeamTeller {
             const Expression distance =
                 axis.Counterclockwise ? Distance(load.X, axis.X) : Distance(axis.X, load.X);
             const std::string symbols =
-                axis.Counterclockwise ? " × (" + axis.Name + " - x)" : " × (x - " + axis.Name + ")";
+                axis.Counterclockwise ? " × (" + axis.At + " - x)" : " × (x - " + axis.At + ")";
             MomentLine("Moment of " + load.Name, load.Name + symbols, Force(load.Force) * distance);
             keep(load.Name, load.Force * arm);
         }
@@ -133,10 +136,12 @@ class ReactionTeller : public BeamTeller {
     void Wall() const
     {
         const bool left = Beam.SupportType == kFixedLeft;
-        const Axis axis{left ? "A" : "B", left ? Beam.SupportA : Beam.SupportB, !left};
+        const Axis axis{left ? "A" : "B", left ? "a" : "b", left ? Beam.SupportA : Beam.SupportB,
+                        !left};
         const std::string moment = "M" + axis.Name;
         Text.Sentence("Cut the beam free of its wall, which gives it an upward force " + axis.Name +
                       " and a counterclockwise moment " + moment + ".");
+        Text.Line("It stands at " + axis.At + " = " + Position(axis.X) + ".");
         ListResultants();
         Text.Heading("Sum of vertical forces");
         const double force = SumOfForces();

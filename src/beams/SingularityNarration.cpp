@@ -35,6 +35,8 @@ constexpr std::array<DiagramWords, 4> kDiagrams{{
      kSecondSize},
 }};
 
+constexpr int kLastUsLength = 1; // in and ft, whose moments are named "ft-lbs"
+
 /// With as many decimals as tell, up to three; small ones scaled.
 std::string CoefficientText(double size)
 {
@@ -66,6 +68,7 @@ class SingularityTeller : public BeamTeller {
         constexpr std::array<std::string_view, 4> kPowers{"", "-", "-", "-"};
         constexpr std::array<std::string_view, 4> kRaised{"", "", "²", "³"};
         if (order == 0) return ForceUnit();
+        if (order == 1 && Units.Length <= kLastUsLength) return LengthUnit() + "-" + ForceUnit();
         return ForceUnit() + std::string(kPowers[order]) + LengthUnit() +
                std::string(kRaised[order]);
     }
@@ -181,25 +184,27 @@ class SingularityTeller : public BeamTeller {
     void ConstantsOfSupports() const
     {
         Text.Sentence("The deflection EIy is the sum Y of the brackets, plus C1 × x + C2. It is "
-                      "zero at A and at B.");
+                      "zero at the supports, which stand at a = " +
+                      Position(Beam.SupportA) + " and b = " + Position(Beam.SupportB) + ".");
         const double a = Beam.SupportA / lengthFactor_;
         const double b = Beam.SupportB / lengthFactor_;
-        const double ya = TellSum("Y(A)", 3, Beam.SupportA);
-        const double yb = TellSum("Y(B)", 3, Beam.SupportB);
+        const double ya = TellSum("Y(a)", 3, Beam.SupportA);
+        const double yb = TellSum("Y(b)", 3, Beam.SupportB);
         const double c1 = (ya - yb) / (b - a);
-        Line("C1", "(Y(A) - Y(B)) ÷ (B - A)",
+        Line("C1", "(Y(a) - Y(b)) ÷ (b - a)",
              (Number(ya) - Number(yb)) / Distance(Beam.SupportA, Beam.SupportB), 2);
-        TellSecondConstant("A", ya, c1, a);
+        TellSecondConstant("a", ya, c1, a);
     }
 
     void ConstantsOfWall() const
     {
         Text.Sentence("The slope EIθ is the sum T of its brackets plus C1, the deflection EIy the "
-                      "sum Y of its brackets plus C1 × x + C2. Both are zero at the wall B.");
-        const double t = TellSum("T(B)", 2, Beam.SupportB);
-        Line("C1", "-T(B)", Number(-t), 2);
-        const double y = TellSum("Y(B)", 3, Beam.SupportB);
-        TellSecondConstant("B", y, -t, Beam.SupportB / lengthFactor_);
+                      "sum Y of its brackets plus C1 × x + C2. Both are zero at the wall, b = " +
+                      Position(Beam.SupportB) + ".");
+        const double t = TellSum("T(b)", 2, Beam.SupportB);
+        Line("C1", "-T(b)", Number(-t), 2);
+        const double y = TellSum("Y(b)", 3, Beam.SupportB);
+        TellSecondConstant("b", y, -t, Beam.SupportB / lengthFactor_);
     }
 
     void TellSecondConstant(const std::string& where, double y, double c1, double x) const

@@ -129,7 +129,7 @@ TEST(BeamExplanations, StandALoadOffTheBeam)
     BeamRecord beam = Simple(10, kFoot);
     Add(beam, kPointDown, 15, 0, 100, kLb);
     const Told told = Tell(beam, {kFoot, kLb, 0, 0, 0, 1});
-    EXPECT_THAT(BeamExplanations(told.View()), HasSubstr(Local("A = Sum ÷ (B - A)")));
+    EXPECT_THAT(BeamExplanations(told.View()), HasSubstr(Local("A = Sum ÷ (b - a)")));
     EXPECT_EQ(told.Beam.Curves.CurveX[kCurvePoints], 120);
     EXPECT_NE(ExplainLoadDiagram(told.View(), 1), "");
 }
@@ -147,12 +147,25 @@ TEST(ExplainReactions, WritesTheEquations)
     const Told told = FirstExample();
     const std::string text = ExplainReactions(told.View());
     for (const std::string line : {"W of 1w = 1w × length = 5.0 × (10.0 - 0.0) = 50.0 kN",
-                                   "Moment of 1P = 1P × (B - x) = 8.0 × (10.0 - 3.0) = 56.0 kN-m",
+                                   "Moment of 1P = 1P × (b - x) = 8.0 × (10.0 - 3.0) = 56.0 kN-m",
                                    "Sum about B = 250.0 + 56.0 = 306.0 kN-m",
-                                   "A = Sum ÷ (B - A) = 306.0 ÷ (10.0 - 0.0) = 30.6 kN",
-                                   "B = Sum ÷ (B - A) = 274.0 ÷ (10.0 - 0.0) = 27.4 kN",
+                                   "A = Sum ÷ (b - a) = 306.0 ÷ (10.0 - 0.0) = 30.6 kN",
+                                   "B = Sum ÷ (b - a) = 274.0 ÷ (10.0 - 0.0) = 27.4 kN",
                                    "A + B - Sum of loads = 30.6 + 27.4 - 58.0 = 0.0 kN"})
         EXPECT_THAT(text, HasSubstr(Local(line) + "\r\n"));
+}
+
+TEST(BeamExplanations, TellTheStretchAlongWhichAnExtremeStays)
+{
+    // Reactions 4.625 and 3.375 by hand; the shear is -3.375 from the load's end to the support.
+    BeamRecord beam = Beam(kTwoSupports, 11, 0, 8, kMetre);
+    Add(beam, kUniformDown, 2, 6, 2, kKn);
+    Add(beam, kMomentCcw, 11, 0, 5, kKn);
+    const Told told = Tell(beam, {kMetre, kKn, kKn, 0, 0, 1});
+    const std::string text = BeamExplanations(told.View());
+    EXPECT_THAT(text, HasSubstr(Local("The largest shear is 4.6 kN from 0.0 to 2.0 m: ")));
+    EXPECT_THAT(text, HasSubstr(Local("The smallest shear is -3.4 kN from 6.0 to 8.0 m: ")));
+    EXPECT_THAT(text, HasSubstr(Local("The largest moment is 14.6 kN-m at 4.31 m: ")));
 }
 
 TEST(ExplainReactions, OfACantilever)
@@ -258,7 +271,7 @@ TEST(DisplaySingularity, WritesTheFourFunctions)
                 HasSubstr(Local("- 8.0⟨x - 3.0⟩² ÷ 2 - 255.9") + ", in kN-m²"));
     EXPECT_THAT(text(Diagram::Deflection), HasSubstr(Local("÷ 6 - 255.9x") + ", in kN-m³"));
     EXPECT_THAT(text(Diagram::Deflection),
-                HasSubstr(Local("C1 = (Y(A) - Y(B)) ÷ (B - A) = (0.0 - 2,559.3) ÷ (10.0 - 0.0) = "
+                HasSubstr(Local("C1 = (Y(a) - Y(b)) ÷ (b - a) = (0.0 - 2,559.3) ÷ (10.0 - 0.0) = "
                                 "-255.9 kN-m²")));
 }
 
