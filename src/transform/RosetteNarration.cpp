@@ -145,7 +145,7 @@ void ExplainEntries(Narration& text, const StressState& state, const MohrEntry& 
 void ExplainThird(Narration& text, const StressState& state, const MohrEntry& entry)
 {
     const std::string third = IsStrain(entry.Mode) ? "Eps 3" : "Sigma 3";
-    if (state.PrincipalThree == 0) {
+    if (!IsStrain(entry.Mode) || !AssumesPlaneStress(entry)) {
         text.Line("The assumption of plane " +
                   std::string(IsStrain(entry.Mode) ? "strain" : "stress") +
                   " leaves nothing across the plane: " + third + " = " +

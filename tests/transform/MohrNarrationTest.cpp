@@ -69,6 +69,15 @@ TEST(ExplainMohr, TellsWhichCircleGoverns)
 }
 
 /// The stresses of the explanation are those of the captions beside the rosette.
+TEST(ExplainMohr, ARosetteWithoutMeanStrainIsStillInPlaneStress)
+{
+    MohrEntry entry = Rosette(MohrMode::Rosette45, {"100", "40", "100"});
+    entry.Negative[2] = true;
+    const Solved solved = Solve(entry);
+    EXPECT_THAT(ExplainMohr(solved.State, solved.Entry),
+                HasSubstr("The assumption of plane stress leaves the surface free to strain"));
+}
+
 TEST(ExplainMohr, ReducesARosetteToStresses)
 {
     Solved solved = Solve(Rosette(MohrMode::Rosette45, {"340", "315", "110"}));
