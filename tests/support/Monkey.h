@@ -2,7 +2,7 @@
 
 #include "support/FormTest.h"
 
-#include <QTimer>
+#include <QObject>
 
 #include <algorithm>
 #include <functional>
@@ -66,16 +66,35 @@ class Monkey {
     std::mt19937 random_;
 };
 
+/// Sees to what would wait for a person: closes a menu that dropped down, and hands over the form
+/// that wants an answer first, also one that came up while another was being answered.
+class Answering {
+  public:
+    explicit Answering(std::function<void(screen::Form&)> onModal) : onModal_(std::move(onModal)) {}
+    void Start();
+    void Stop() { on_ = false; }
+
+  private:
+    void LookLater();
+    void Look();
+
+    std::function<void(screen::Form&)> onModal_;
+    std::vector<const screen::Form*> inHand_; ///< being answered, the last on top
+    bool on_ = false;
+    QObject receiver_; ///< ends what waits with this object
+};
+
 /// Lets a monkey loose on a form of a fixture.
 template <class Fixture>
 class MonkeyTest : public Fixture {
   protected:
     using Deed = std::function<void()>;
 
-    MonkeyTest(std::uint32_t seed, MonkeyGround ground) : Ape(seed, std::move(ground))
+    MonkeyTest(std::uint32_t seed, MonkeyGround ground)
+        : Ape(seed, std::move(ground)),
+          answering_([this](screen::Form& form) { AnswerModal(form); })
     {
         this->Messages->AcceptAny = true;
-        QObject::connect(&answering_, &QTimer::timeout, [this] { AnswerWhatWaits(); });
     }
 
     /// What must hold after every step.
@@ -84,6 +103,14 @@ class MonkeyTest : public Fixture {
     virtual void AnswerModal(screen::Form& form)
     {
         screen::Forms::Hide(form.objectName().toStdString());
+    }
+    /// Goes to the form in use, before and after every deed.
+    virtual void Return(const std::string& form)
+    {
+        if (screen::Forms::IsVisible(form))
+            this->Use(form);
+        else
+            this->Open(form);
     }
 
     /// One of the monkey's own deeds on the form in use.
@@ -96,7 +123,7 @@ class MonkeyTest : public Fixture {
     /// ground does not name, and the form is opened again where it went.
     void Run(const std::string& form, int steps, const std::vector<Deed>& deeds)
     {
-        answering_.start(0);
+        answering_.Start();
         for (int step = 0; step < steps; ++step) {
             SCOPED_TRACE("step " + std::to_string(step));
             Return(form);
@@ -107,20 +134,12 @@ class MonkeyTest : public Fixture {
             ExpectKnownBoxes();
             ASSERT_NO_FATAL_FAILURE(ExpectSound());
         }
-        answering_.stop();
+        answering_.Stop();
     }
 
     Monkey Ape;
 
   private:
-    void Return(const std::string& form)
-    {
-        if (screen::Forms::IsVisible(form))
-            this->Use(form);
-        else
-            this->Open(form);
-    }
-
     void ExpectKnownBoxes()
     {
         for (const MsgBox& box : this->Messages->Shown)
@@ -128,15 +147,7 @@ class MonkeyTest : public Fixture {
         this->Messages->Shown.clear();
     }
 
-    // A menu that dropped down, or a form that wants an answer first.
-    void AnswerWhatWaits()
-    {
-        if (QWidget* popup = QApplication::activePopupWidget()) popup->close();
-        if (auto* form = dynamic_cast<screen::Form*>(QApplication::activeModalWidget()))
-            AnswerModal(*form);
-    }
-
-    QTimer answering_;
+    Answering answering_;
 };
 
 } // namespace forcelab::test
