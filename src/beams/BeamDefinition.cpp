@@ -1,6 +1,7 @@
 #include "beams/BeamEntry.h"
 
 #include "beams/BeamLabels.h"
+#include "beams/LoadPlaces.h"
 #include "core/MainModule.h"
 #include "core/NumericText.h"
 #include "core/Units.h"
@@ -66,11 +67,12 @@ void SetUnit(BeamRecord& beam, int unit)
     beam.SupportB *= beam.BeamLengthFactor;
 }
 
-bool IsBeyondEnd(const BeamRecord& beam, int row)
+bool ReachesBeyondEnd(const BeamRecord& beam, int row)
 {
     const auto& x = beam.LoadX[row];
-    return x[1] > beam.BeamLength ||
-           (beam.LoadClass[row] == kUniformLoad && x[2] > beam.BeamLength);
+    const double unit = beam.LoadUnitFactor[row][1];
+    return IsBeyondEnd(beam, x[1], unit) ||
+           (beam.LoadClass[row] == kUniformLoad && IsBeyondEnd(beam, x[2], unit));
 }
 
 /// Deletes the loads beyond the beam's end; returns how many there were.
@@ -78,7 +80,7 @@ int DeleteLoadsBeyondEnd(BeamRecord& beam)
 {
     int deleted = 0;
     for (int i = 1; i <= beam.LoadCount; ++i) {
-        if (!IsBeyondEnd(beam, i - deleted)) continue;
+        if (!ReachesBeyondEnd(beam, i - deleted)) continue;
         DeleteLoad(beam, i - deleted, beam.LoadCount);
         ++deleted;
     }
@@ -106,6 +108,7 @@ Definition DefineBeam(BeamRecord& beam, DefinitionText& text, int lengthUnit)
     SetUnit(beam, lengthUnit);
     if (beam.LoadCount == 0) return result;
     if (DeleteLoadsBeyondEnd(beam) > 0) result.Notice = DeletionNotice();
+    AlignLoads(beam);
     MakeLabels(beam);
     return result;
 }

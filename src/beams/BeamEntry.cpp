@@ -2,6 +2,7 @@
 
 #include "beams/BeamLabels.h"
 #include "beams/LoadFactors.h"
+#include "beams/LoadPlaces.h"
 #include "core/ArithmeticFault.h"
 #include "core/MainModule.h"
 #include "core/NumericText.h"
@@ -56,7 +57,7 @@ std::optional<Refusal> CheckLoadLocation(const BeamRecord& beam, const LoadText&
 {
     const double factor = LengthFactor(text.LengthUnit);
     for (const std::string& x : {text.Start, EndText(text)})
-        if (Size(x) * factor > beam.BeamLength)
+        if (IsBeyondEnd(beam, Size(x) * factor, factor))
             return Refusal{kStop, "Load Location Error",
                            "The x-coordinate entered for the load location" + MainModule::CrLf +
                                "does not fall within the specified beam length.",
@@ -82,6 +83,7 @@ void EnterLoadData(BeamRecord& beam, const LoadText& text, int row)
                   {text.Type, Size(text.Start), Size(EndText(text)), text.LengthUnit,
                    Size(text.Magnitude[factored ? 1 : 0]), factored ? Size(text.Magnitude[2]) : 0,
                    text.MagnitudeUnit});
+    AlignLoads(beam);
     MakeLabels(beam);
 }
 
@@ -159,6 +161,7 @@ bool RedoLoad(BeamRecord& beam)
     if (beam.LoadCount >= kMaxLoads || beam.LoadUnitFactor[beam.LoadCount + 1][1] <= 0)
         return false;
     ++beam.LoadCount;
+    AlignLoads(beam);
     MakeLabels(beam);
     return true;
 }
