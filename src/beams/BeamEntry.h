@@ -49,7 +49,7 @@ std::optional<Refusal> CheckLoadLocation(const BeamRecord& beam, const LoadText&
 /// changed. A uniform load may end before it starts, and a magnitude may be missing: it is then 0.
 std::optional<Refusal> EnterLoad(BeamRecord& beam, const LoadText& text);
 
-/// Stores the frame's boxes in a row and labels all loads anew.
+/// Stores the frame's boxes in a row, aligns the loads and labels all anew.
 void EnterLoadData(BeamRecord& beam, const LoadText& text, int row);
 
 /// A load from numbers in its own units. Signs of the magnitudes are dropped, the type gives them:

@@ -18,7 +18,9 @@ struct CurveFrame {
     [[nodiscard]] double ValueAt(double y) const { return y * YDivisor / ValueScale; }
 };
 
-/// The box of the sign convention on the shear diagram, in pixels from the upper left corner.
+/// The box of the sign convention on the shear diagram, in pixels from the upper left corner. It is
+/// imgReverseShear(0) and (1) in one, by ReverseShearSign: part of the picture, so that it prints
+/// and exports with the diagram; frmBeamDiagrams gives it its hint and its double click.
 struct SignSketchBox {
     double Left, Top, Width, Height;
 };

@@ -223,6 +223,32 @@ TEST(PipeStress, ShearAtTheCentreAlone)
     EXPECT_EQ(ShearAt(pipe, 0, 0.001), 0);
 }
 
+/// The steel shapes of these outlines follow the laws of a tube and of a pipe, at every place.
+TEST(SteelStress, TubesAndPipesAsTheGeneralShapes)
+{
+    struct Row {
+        Worked General;
+        int Steel;
+        std::vector<std::array<double, 2>> Points; ///< z and y
+    };
+    const std::vector<std::array<double, 2>> inTube{{0, 0}, {0, 1}, {2.75, 3}, {0, 4.25}, {0, 5}};
+    for (const Row& row :
+         {Row{Computed(kBox, {6, 10, 5, 8.5}), kSteelTS, inTube},
+          Row{Computed(kPipe, {5, 3.5}), kSteelPipe, {{0, 0}, {0, 1}, {2, 2.5}}}}) {
+        Worked steel = row.General;
+        steel.Section.ShapeIndex = row.Steel;
+        for (const auto& [z, y] : row.Points) {
+            const PointStress expected = At(row.General, z, y, {900, kShear, kMoment});
+            const PointStress stress = At(steel, z, y, {900, kShear, kMoment});
+            EXPECT_NE(expected.Normal, 0) << z << ", " << y;
+            EXPECT_EQ(stress.Normal, expected.Normal) << z << ", " << y;
+            EXPECT_EQ(stress.Shear, expected.Shear) << z << ", " << y;
+        }
+        EXPECT_EQ(NormalAt(steel, 0, 5.01), 0) << "above the section";
+        EXPECT_NE(ShearAt(steel, 0, 0), 0);
+    }
+}
+
 /// c right 3, top 4, left 3, bottom 5; Iz 100, Iy 60, A 30.
 TEST(SpecifiedStress, NormalButNoShear)
 {
