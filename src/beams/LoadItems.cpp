@@ -35,7 +35,9 @@ LoadItem ItemOf(const BeamRecord& beam, int row, int loadCase)
     LoadItem item;
     item.Is = WhatOf(family);
     item.Row = row;
-    item.Below = type == kPointUp || type == kUniformUp;
+    // A load that ends before it starts acts the other way, and is drawn as it acts.
+    const bool backward = family == kUniformLoad && beam.LoadX[row][2] < beam.LoadX[row][1];
+    item.Below = (type == kPointUp || type == kUniformUp) != backward;
     item.Turned = type == kMomentCw;
     item.X1 = std::min(beam.LoadX[row][1], beam.LoadX[row][2]);
     item.X2 = std::max(beam.LoadX[row][1], beam.LoadX[row][2]);

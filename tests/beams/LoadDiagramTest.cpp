@@ -125,15 +125,21 @@ TEST(LoadSizeText, KeepsTheDecimalsOfTheLoad)
     EXPECT_EQ(LoadSizeText(beam, 3, kUnfactored), Local("0.0125 kips"));
 }
 
-TEST(DrawLoadDiagram, AnEndBeforeItsStartIsDrawnAllTheSame)
+/// It acts against its type: a load "down" from 15 ft to 5 ft lifts the beam, and stands under it.
+TEST(DrawLoadDiagram, AnEndBeforeItsStartIsDrawnAsItActs)
 {
-    BeamRecord beam = Simple(20, kFoot);
-    Add(beam, kUniformDown, 15, 5, 2, kKip);
-    RecordingPicture pic(800, 280);
-    const LoadDiagramAreas areas = Draw(pic, beam, kKip);
-    EXPECT_THAT(pic.Texts(), Contains(Local("1w = 2.0 kips/ft")));
-    EXPECT_TRUE(Near(areas.HotSpots[1][kSpotLeft], 60));
-    EXPECT_TRUE(Near(areas.HotSpots[1][kSpotRight], 180));
+    for (const int type : {kUniformDown, kUniformUp}) {
+        BeamRecord beam = Simple(20, kFoot);
+        Add(beam, type, 15, 5, 2, kKip);
+        RecordingPicture pic(800, 280);
+        const LoadDiagramAreas areas = Draw(pic, beam, kKip);
+        EXPECT_THAT(pic.Texts(), Contains(Local("1w = 2.0 kips/ft")));
+        EXPECT_TRUE(Near(areas.HotSpots[1][kSpotLeft], 60));
+        EXPECT_TRUE(Near(areas.HotSpots[1][kSpotRight], 180));
+        EXPECT_EQ(areas.HotSpots[1][kSpotTop] < 0, type == kUniformDown) << "from the upper edge";
+        const bool reactionsDown = type == kUniformDown;
+        EXPECT_EQ(Solve(beam).Reactions.ReactionA[kUnfactored] < 0, reactionsDown);
+    }
 }
 
 struct Sheet {
