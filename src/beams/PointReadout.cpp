@@ -62,6 +62,31 @@ std::array<std::string, 2> FinerTexts(const std::array<double, 2>& shown, double
             FinerText(shown[1], noiseOfSlope * beam.BeamLength * DeflectionScale(units))};
 }
 
+bool HasLength(const BeamRecord& beam)
+{
+    return beam.SupportType != kNoBeam && beam.BeamLength > 0;
+}
+
+/// The values at `wanted`, held inside the beam.
+void TakeValues(PointReadout& point, double wanted, const BeamRecord& beam,
+                const DiagramUnits& units)
+{
+    const double x = std::clamp(wanted, 0.0, beam.BeamLength);
+    PointReadout result = point;
+    if (x != wanted) result.XText = PointText(x, units);
+    BeamReactions reactions;
+    CalculateReactions(beam, reactions);
+    const int loadCase = point.SlopeView ? SlopeDeflectionCase(beam) : ShearMomentCase(beam);
+    result.Values = BeamValuesAt(beam, reactions, loadCase, x);
+    result.X = x;
+    const auto shown = ShownValues(result, units);
+    for (int i = 0; i < 2; ++i) result.Texts[i] = Format(shown[i], kValueMask);
+    result.Finer = {};
+    if (point.SlopeView)
+        result.Finer = FinerTexts(shown, NoiseOfSlope(beam, reactions, loadCase), beam, units);
+    point = result;
+}
+
 } // namespace
 
 void TellPointChanged()
@@ -80,22 +105,14 @@ void ClearPoint(PointReadout& point)
 
 void CalculatePoint(PointReadout& point, const BeamRecord& beam, const DiagramUnits& units)
 {
-    if (beam.SupportType == kNoBeam || !(beam.BeamLength > 0)) return ClearPoint(point);
-    const double typed = Finite(StringValue(point.XText) * LengthFactor(units.Length));
-    const double x = std::clamp(typed, 0.0, beam.BeamLength);
-    PointReadout result = point;
-    if (x != typed) result.XText = PointText(x, units);
-    BeamReactions reactions;
-    CalculateReactions(beam, reactions);
-    const int loadCase = point.SlopeView ? SlopeDeflectionCase(beam) : ShearMomentCase(beam);
-    result.Values = BeamValuesAt(beam, reactions, loadCase, x);
-    result.X = x;
-    const auto shown = ShownValues(result, units);
-    for (int i = 0; i < 2; ++i) result.Texts[i] = Format(shown[i], kValueMask);
-    result.Finer = {};
-    if (point.SlopeView)
-        result.Finer = FinerTexts(shown, NoiseOfSlope(beam, reactions, loadCase), beam, units);
-    point = result;
+    if (!HasLength(beam)) return ClearPoint(point);
+    TakeValues(point, Finite(StringValue(point.XText) * LengthFactor(units.Length)), beam, units);
+}
+
+void RenewPoint(PointReadout& point, const BeamRecord& beam, const DiagramUnits& units)
+{
+    if (!point.X || !HasLength(beam)) return ClearPoint(point);
+    TakeValues(point, *point.X, beam, units);
 }
 
 PointCaptions CaptionsOfPoint(bool slopeView, const DiagramUnits& units)

@@ -39,6 +39,10 @@ void ClearPoint(PointReadout& point);
 /// shear and moment or slope and deflection there in the units of the diagrams. Without a beam the
 /// values are cleared. Throws ArithmeticFault where a number overflows.
 void CalculatePoint(PointReadout& point, const BeamRecord& beam, const DiagramUnits& units);
+/// Takes the values again where they stand, after a change of the beam or the units: at X itself,
+/// of which XText may be no more than the rounded print. Cleared where none stand. Throws
+/// ArithmeticFault where a number overflows.
+void RenewPoint(PointReadout& point, const BeamRecord& beam, const DiagramUnits& units);
 
 /// The captions of the readout on frmDetails.
 struct PointCaptions {

@@ -62,6 +62,36 @@ TEST(PointReadout, HoldsThePointInsideTheBeam)
     EXPECT_EQ(PointAt("-1", LoadedSpan(), Metric()).XText, Local("0.00"));
 }
 
+TEST(PointReadout, StaysWhereItStandsThoughItsTextIsRounded)
+{
+    const BeamRecord beam = LoadedSpan();
+    PointReadout point = PointAt("10", beam, Metric());
+    DiagramUnits feet = Metric();
+    feet.Length = kFoot;
+    point.XText = PointText(*point.X, feet);
+    EXPECT_EQ(point.XText, Local("32.808")); // the end is at 32.8084 ft
+    RenewPoint(point, beam, feet);
+    EXPECT_EQ(*point.X, beam.BeamLength);
+    EXPECT_EQ(point.XText, Local("32.808"));
+}
+
+TEST(PointReadout, MovesToTheEndOfABeamThatBecameShorter)
+{
+    PointReadout point = PointAt("9", LoadedSpan(), Metric());
+    BeamRecord shorter = Simple(4, kMetre);
+    Add(shorter, kPointDown, 2, 2, 8, kKn);
+    RenewPoint(point, shorter, Metric());
+    EXPECT_EQ(*point.X, shorter.BeamLength);
+    EXPECT_EQ(point.XText, Local("4.00"));
+}
+
+TEST(PointReadout, WithoutAPlaceHasNothingToRenew)
+{
+    PointReadout point;
+    RenewPoint(point, LoadedSpan(), Metric());
+    EXPECT_EQ(point.Texts[0], kNotCalculated);
+}
+
 TEST(PointReadout, TellsTheDigitsOfASlopeThatTheMaskHides)
 {
     // 10 ft, 1000 lb at midspan on EI = 29e6 x 999: P L^3 / 48 E I = 0.00124 in downward.

@@ -239,10 +239,11 @@ void frmBeamDiagrams::cmdSpecificPoint_click()
 /// Keeps the point at its place where its values stand, with the values of now.
 void frmBeamDiagrams::RenewPoint()
 {
-    const bool stood = CurrentPoint.X.has_value();
-    ClearPoint(CurrentPoint);
     try {
-        if (stood && HasLoads()) CalculatePoint(CurrentPoint, CurrentBeam, ShownDiagramUnits);
+        if (HasLoads())
+            beams::RenewPoint(CurrentPoint, CurrentBeam, ShownDiagramUnits);
+        else
+            ClearPoint(CurrentPoint);
     } catch (const ArithmeticFault&) {
         ClearPoint(CurrentPoint); // the diagrams tell of it
     }
