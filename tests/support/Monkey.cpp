@@ -2,12 +2,10 @@
 
 #include <QAbstractButton>
 #include <QAction>
-#include <QApplication>
 #include <QListWidget>
 #include <QMenu>
 #include <QPointer>
 #include <QScrollBar>
-#include <QTimer>
 
 #include <cstdio>
 #include <cstdlib>
@@ -20,7 +18,6 @@ namespace {
 
 constexpr int kTextsToAnEnter = 4;
 constexpr int kClicksToARightOne = 6;
-constexpr int kLookingTime = 1; // milliseconds
 
 std::uint32_t SeedOf(std::uint32_t usual)
 {
@@ -149,30 +146,6 @@ void Monkey::Trigger(Form& form)
 {
     QAction* item = AnyItem(form);
     if (item && CanReach(*item)) item->trigger();
-}
-
-void Answering::Start()
-{
-    if (!on_) LookLater();
-    on_ = true;
-}
-
-// Each look asks for the next one first: what it starts may wait in turn.
-void Answering::LookLater()
-{
-    QTimer::singleShot(kLookingTime, &receiver_, [this] { Look(); });
-}
-
-void Answering::Look()
-{
-    if (!on_) return;
-    LookLater();
-    if (QWidget* popup = QApplication::activePopupWidget()) popup->close();
-    auto* form = dynamic_cast<Form*>(QApplication::activeModalWidget());
-    if (!form || (!inHand_.empty() && inHand_.back() == form)) return;
-    inHand_.push_back(form);
-    onModal_(*form);
-    inHand_.pop_back();
 }
 
 } // namespace forcelab::test

@@ -1,8 +1,7 @@
 #pragma once
 
 #include "support/FormTest.h"
-
-#include <QObject>
+#include "support/MonkeyAnswers.h"
 
 #include <algorithm>
 #include <functional>
@@ -66,24 +65,6 @@ class Monkey {
     std::mt19937 random_;
 };
 
-/// Sees to what would wait for a person: closes a menu that dropped down, and hands over the form
-/// that wants an answer first, also one that came up while another was being answered.
-class Answering {
-  public:
-    explicit Answering(std::function<void(screen::Form&)> onModal) : onModal_(std::move(onModal)) {}
-    void Start();
-    void Stop() { on_ = false; }
-
-  private:
-    void LookLater();
-    void Look();
-
-    std::function<void(screen::Form&)> onModal_;
-    std::vector<const screen::Form*> inHand_; ///< being answered, the last on top
-    bool on_ = false;
-    QObject receiver_; ///< ends what waits with this object
-};
-
 /// Lets a monkey loose on a form of a fixture.
 template <class Fixture>
 class MonkeyTest : public Fixture {
@@ -134,6 +115,14 @@ class MonkeyTest : public Fixture {
             ExpectKnownBoxes();
             ASSERT_NO_FATAL_FAILURE(ExpectSound());
         }
+        answering_.Stop();
+    }
+
+    /// Does something on the way of which modal forms may come up.
+    void AnswerWhile(const Deed& work)
+    {
+        answering_.Start();
+        work();
         answering_.Stop();
     }
 

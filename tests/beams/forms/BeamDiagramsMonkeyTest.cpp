@@ -1,60 +1,70 @@
 #include "BeamDiagramsFormTest.h"
-
-#include <QAction>
-
-#include <cmath>
-#include <cstdio>
-#include <cstdlib>
-#include <random>
+#include "core/Units.h"
+#include "support/Monkey.h"
 
 namespace forcelab::beams {
 namespace {
 
+using test::Monkey;
+
 constexpr int kSteps = 1500;
-constexpr std::uint32_t kDefaultSeed = 40023;
+constexpr std::uint32_t kSeed = 40023;
+
+const test::MonkeyGround kGround{
+    {},
+    {"mnuShearMoment", "mnuSlopeDeflection", "mnuExplain", "mnuExplainShear", "mnuSpecificPoint",
+     "mnuHelp", "mnuBack", "mnuShearSignConvention"},
+    {"Beam Definition Error", "Load Location Error", "Load Data Warning",
+     "Slope/Deflection Message", "Shear Diagram Error Message", "Moment Diagram Error Message",
+     "Slope Diagram Error Message", "Deflection Diagram Error Message"},
+    {}};
 
 /// Presses, clicks, drags and changes the beam at random. The form must follow the beam: what it
 /// shows of the point belongs to the beam of now, and only boxes that it knows may come.
-class DiagramMonkey : public BeamDiagramsFormTest {
+class DiagramMonkey : public test::MonkeyTest<BeamDiagramsFormTest> {
   protected:
-    DiagramMonkey()
-    {
-        const char* given = std::getenv("FORCELAB_SEED");
-        const auto seed = given ? static_cast<std::uint32_t>(std::stoul(given)) : kDefaultSeed;
-        std::printf("seed %u (FORCELAB_SEED)\n", seed);
-        random_.seed(seed);
-        Messages->AcceptAny = true;
-    }
+    DiagramMonkey() : MonkeyTest(kSeed, kGround) {}
 
-    int Pick(std::size_t count) { return static_cast<int>(random_() % count); }
-    template <class Choice, std::size_t Count>
-    Choice OneOf(const Choice (&choices)[Count])
+    void ExpectSound() override
     {
-        return choices[Pick(Count)];
+        EXPECT_EQ(Find<screen::ComboBox>("cboLoads").count(), std::max(1, CurrentBeam.LoadCount));
+        EXPECT_LE(OpenPanes().size(), 1U);
+        EXPECT_EQ(IsChosen("mnuSlopeDeflection"), CurrentPoint.SlopeView);
+        EXPECT_TRUE(IsChosen("optLengthUnits(" + std::to_string(ShownDiagramUnits.Length) + ")"));
+        if (!CurrentPoint.X) return;
+        ++points_;
+        PointReadout again = CurrentPoint;
+        RenewPoint(again, CurrentBeam, ShownDiagramUnits);
+        EXPECT_EQ(again.Texts, CurrentPoint.Texts);
+        EXPECT_EQ(
+            PointText(*CurrentPoint.X, ShownDiagramUnits),
+            PointText(StringValue(CurrentPoint.XText) * LengthFactor(ShownDiagramUnits.Length),
+                      ShownDiagramUnits));
+        EXPECT_LE(*CurrentPoint.X, CurrentBeam.BeamLength);
     }
 
     void ChangeTheBeam()
     {
         Entry();
         const auto number = [this](int from, int to) {
-            return std::to_string(from + Pick(std::size_t(to - from + 1)));
+            return std::to_string(from + Ape.Pick(std::size_t(to - from + 1)));
         };
-        switch (CurrentBeam.SupportType == kNoBeam ? 0 : Pick(9)) {
+        switch (CurrentBeam.SupportType == kNoBeam ? 0 : Ape.Pick(9)) {
         case 0:
-            DefineSimple(number(5, 30), "0", number(1, 5), Pick(4));
+            DefineSimple(number(5, 30), "0", number(1, 5), Ape.Pick(4));
             break;
         case 1:
-            DefineCantilever(1 + Pick(2), number(1, 30), Pick(4));
+            DefineCantilever(1 + Ape.Pick(2), number(1, 30), Ape.Pick(4));
             break;
         case 2:
         case 3:
-            EnterPoint(Pick(2), number(0, 20), number(0, 900));
+            EnterPoint(Ape.Pick(2), number(0, 20), number(0, 900));
             break;
         case 4:
-            EnterUniform(2 + Pick(2), number(0, 9), number(0, 20), number(0, 50));
+            EnterUniform(2 + Ape.Pick(2), number(0, 9), number(0, 20), number(0, 50));
             break;
         case 5:
-            EnterMoment(4 + Pick(2), number(0, 20), number(0, 900));
+            EnterMoment(4 + Ape.Pick(2), number(0, 20), number(0, 900));
             break;
         case 6:
             EnterPoint(1, number(0, 9), "1e305"); // its moments overflow
@@ -63,136 +73,49 @@ class DiagramMonkey : public BeamDiagramsFormTest {
             Trigger("mnuUndoLoadEntry");
             break;
         default:
-            Trigger(OneOf({"mnuLF(0)", "mnuLF(1)", "mnuLoadFac(0)", "mnuRedoLoadEntry"}));
+            Trigger(Ape.AnyOf<std::string>(
+                {"mnuLF(0)", "mnuLF(1)", "mnuLoadFac(0)", "mnuRedoLoadEntry"}));
         }
     }
 
-    void ChooseSomething()
+    void PressAKey()
     {
-        static const char* kOptions[] = {"optLengthUnits", "optForceUnits", "optMomentUnits",
-                                         "optSlopeUnits", "optDeflectionUnits"};
-        const int array = Pick(5);
-        const std::string name =
-            std::string(kOptions[array]) + "(" + std::to_string(Pick(array < 3 ? 4 : 2)) + ")";
-        if (IsVisible(name)) Choose(name);
+        static const std::vector<Qt::Key> kKeys{Qt::Key_Left,   Qt::Key_Right, Qt::Key_PageUp,
+                                                Qt::Key_Escape, Qt::Key_End,   Qt::Key_Home};
+        FormTest::Press("hsbX", Ape.AnyOf(kKeys));
     }
 
-    void TriggerSomething()
-    {
-        static const char* kItems[] = {"mnuShearMoment",  "mnuSlopeDeflection",    "mnuExplain",
-                                       "mnuExplainShear", "mnuSpecificPoint",      "mnuHelp",
-                                       "mnuBack",         "mnuShearSignConvention"};
-        const std::string item = OneOf(kItems);
-        if (IsEnabled(item)) Trigger(item);
-        if (!Use("frmBeamDiagrams").isVisible()) Open("frmBeamDiagrams");
-    }
-
-    void PressSomeKey()
-    {
-        static const Qt::Key kKeys[] = {Qt::Key_Left,   Qt::Key_Right, Qt::Key_PageUp, Qt::Key_Down,
-                                        Qt::Key_Escape, Qt::Key_End,   Qt::Key_Home,   Qt::Key_Tab};
-        static const char* kControls[] = {"hsbX", "hsbX", "cboLoads", "cboReactions"};
-        const std::string control = OneOf(kControls);
-        if (IsEnabled(control)) Press(control, OneOf(kKeys));
-    }
-
+    // Points come from the middle button and the double click too.
     void UseTheMouse()
     {
-        static const char* kPictures[] = {"picLoadDiagram", "picLoadDiagram", "picShearDiagram",
-                                          "picMomentDiagram", "picDeflectionDiagram"};
-        auto& picture = Picture(OneOf(kPictures));
-        if (!picture.isVisible()) return;
-        const QPoint at(Pick(std::size_t(picture.width())), Pick(std::size_t(picture.height())));
-        static const Qt::MouseButton kButtons[] = {Qt::LeftButton, Qt::MiddleButton};
-        QTest::mouseMove(&picture, at);
-        const auto button = &picture == &Picture("picLoadDiagram") && Pick(3) == 0
-                                ? Qt::RightButton
-                                : OneOf(kButtons);
-        if (Pick(4) == 0)
-            QTest::mouseDClick(&picture, button, Qt::NoModifier, at);
+        auto* picture = Ape.AnyVisible<screen::PictureBox>(TheForm());
+        if (!picture) return;
+        const QPoint at(Ape.Pick(std::size_t(picture->width())),
+                        Ape.Pick(std::size_t(picture->height())));
+        QTest::mouseMove(picture, at);
+        const auto button = Ape.OneIn(2) ? Qt::LeftButton : Qt::MiddleButton;
+        if (Ape.OneIn(4))
+            QTest::mouseDClick(picture, button, Qt::NoModifier, at);
         else
-            QTest::mouseClick(&picture, button, Qt::NoModifier, at);
+            QTest::mouseClick(picture, button, Qt::NoModifier, at);
     }
 
-    void ClickSomeButton()
-    {
-        const std::string name =
-            OneOf({"cmdDiscontinuity(", "cmdCloseExplain("}) + std::to_string(Pick(3)) + ")";
-        if (IsVisible(name) && IsEnabled(name)) Click(name);
-    }
+    void ShapeWindow() { TheForm().resize(394 + Ape.Pick(900), 700 + Ape.Pick(200)); }
 
-    void Step()
-    {
-        switch (Pick(10)) {
-        case 0:
-            return ChangeTheBeam();
-        case 1:
-            return ChooseSomething();
-        case 2:
-            return TriggerSomething();
-        case 3:
-        case 4:
-            return PressSomeKey();
-        case 5:
-            return ClickSomeButton();
-        case 6:
-            return TheForm().resize(394 + Pick(900), 700 + Pick(200));
-        default:
-            return UseTheMouse();
-        }
-    }
-
-    void ExpectTheFormFollows(int step)
-    {
-        const int loads = CurrentBeam.LoadCount;
-        EXPECT_EQ(Find<screen::ComboBox>("cboLoads").count(), std::max(1, loads)) << step;
-        EXPECT_LE(OpenPanes().size(), 1U) << step;
-        EXPECT_EQ(IsChosen("mnuSlopeDeflection"), CurrentPoint.SlopeView) << step;
-        EXPECT_EQ(ShownDiagramUnits.Length,
-                  Find<screen::OptionButton>("optLengthUnits(0)").Value()   ? 0
-                  : Find<screen::OptionButton>("optLengthUnits(1)").Value() ? 1
-                  : Find<screen::OptionButton>("optLengthUnits(2)").Value() ? 2
-                                                                            : 3)
-            << step;
-        if (!CurrentPoint.X) return;
-        PointReadout again = CurrentPoint;
-        CalculatePoint(again, CurrentBeam, ShownDiagramUnits);
-        EXPECT_EQ(again.Texts, CurrentPoint.Texts) << step;
-        EXPECT_LE(*CurrentPoint.X, CurrentBeam.BeamLength) << step;
-    }
-
-    void ExpectKnownBoxes(int step)
-    {
-        for (const test::MsgBox& box : Messages->Shown)
-            EXPECT_TRUE(box.Title == "Forcelab" || box.Title == "Beam Definition Error" ||
-                        box.Title == "Load Location Error" || box.Title == "Load Data Warning" ||
-                        box.Title == "Slope/Deflection Message" ||
-                        box.Title.ends_with("Diagram Error Message"))
-                << step << " " << box.Title;
-        Messages->Shown.clear();
-    }
-
-  private:
-    std::mt19937 random_;
+    int points_ = 0; ///< steps after which a point showed
 };
 
 TEST_F(DiagramMonkey, TheFormFollowsTheBeam)
 {
     MetreBeam();
-    int points = 0;
-    for (int step = 0; step < kSteps && !HasFailure(); ++step) {
-        if (!screen::Forms::IsVisible("frmBeamDiagrams")) Open("frmBeamDiagrams");
-        Use("frmBeamDiagrams");
-        Step();
-        QCoreApplication::processEvents();
-        Use("frmBeamDiagrams");
-        Find<screen::ComboBox>("cboLoads").hidePopup();
-        Find<screen::ComboBox>("cboReactions").hidePopup();
-        ExpectKnownBoxes(step);
-        ExpectTheFormFollows(step);
-        points += CurrentPoint.X.has_value();
-    }
-    EXPECT_GE(points, kSteps / 10);
+    const Deed key = [this] { PressAKey(); };
+    const Deed mouse = [this] { UseTheMouse(); };
+    Run("frmBeamDiagrams", kSteps,
+        {[this] { ChangeTheBeam(); }, [this] { ShapeWindow(); }, key, mouse, mouse,
+         Does(&Monkey::ClickPicture), Does(&Monkey::DragPicture), Does(&Monkey::PressKey),
+         Does(&Monkey::Choose), Does(&Monkey::Press), Does(&Monkey::Press),
+         Does(&Monkey::Trigger)});
+    EXPECT_GE(points_, kSteps / 10);
 }
 
 } // namespace
