@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <set>
 
 namespace forcelab::truss {
 
@@ -48,7 +49,6 @@ class TrussExplanation {
     {
         ExplainCount();
         ExplainReactions(text_, model_, results_);
-        ExplainDirections();
         ExplainZeros();
         const JointWalk walk = WalkJoints(model_, results_, zeros_, HasThreeReactions(results_));
         for (const JointStep& step : walk.Steps) ExplainStep(step);
@@ -69,32 +69,34 @@ class TrussExplanation {
         text_.Line("Equations = 2 × joints = " + Times("2", number(joints)) + " = " +
                    number(2 * joints));
         text_.Line("There are as many equations as unknowns. Forces are counted positive to the "
-                   "right and upward, member forces positive in tension.");
+                   "right and upward, member forces positive in tension. A member that is neither "
+                   "level nor "
+                   "upright acts with its run and its rise over its length.");
     }
 
-    /// The unit vectors of members that are neither level nor upright.
-    void ExplainDirections()
+    /// The unit vectors of members that are neither level nor upright, at the first joint whose
+    /// equations hold them.
+    void ExplainDirections(const std::vector<JointForce>& forces)
     {
-        text_.Heading("Directions of the members");
-        text_.Line("A level member has the unit vector (1; 0), an upright one (0; 1). For the "
-                   "others the components are rise and run over the length.");
-        int m = 0;
-        for (const TrussMember& member : model_.Members()) {
-            ++m;
-            const TrussGridPoint& a = model_.GridPoints[member.FromPoint];
-            const TrussGridPoint& b = model_.GridPoints[member.ToPoint];
-            const double dx = static_cast<double>(b.X) - a.X;
-            const double dy = static_cast<double>(b.Y) - a.Y;
-            if (dx == 0 || dy == 0) continue;
-            const std::string& name = results_.MemberName[m];
-            const Expression run = Number(std::abs(dx), kLength);
-            const Expression rise = Number(std::abs(dy), kLength);
-            const Expression length = Number(std::hypot(dx, dy), kForce);
-            text_.Line(WriteLine(
-                {"Length " + name, "", {Root(Raised(run, 2) + Raised(rise, 2))}, kForce}));
-            for (const auto& [axis, along] : {std::pair{"x", run}, {"y", rise}})
-                text_.Line(WriteLine({name + axis, "", {along / length}, kComponent}));
-        }
+        for (const JointForce& force : forces)
+            if (force.IsMember && force.CosX != 0 && force.SinY != 0 &&
+                directed_.insert(force.Index).second)
+                ExplainDirection(model_.TrussMembers[force.Index], force.Name);
+    }
+
+    void ExplainDirection(const TrussMember& member, const std::string& name)
+    {
+        const TrussGridPoint& a = model_.GridPoints[member.FromPoint];
+        const TrussGridPoint& b = model_.GridPoints[member.ToPoint];
+        const double dx = static_cast<double>(b.X) - a.X;
+        const double dy = static_cast<double>(b.Y) - a.Y;
+        const Expression run = Number(std::abs(dx), kLength);
+        const Expression rise = Number(std::abs(dy), kLength);
+        const Expression length = Number(std::hypot(dx, dy), kForce);
+        text_.Line(
+            WriteLine({"Length " + name, "", {Root(Raised(run, 2) + Raised(rise, 2))}, kForce}));
+        for (const auto& [axis, along] : {std::pair{"x", run}, {"y", rise}})
+            text_.Line(WriteLine({name + axis, "", {along / length}, kComponent}));
     }
 
     [[nodiscard]] std::string Names(const std::vector<int>& members) const
@@ -167,6 +169,7 @@ class TrussExplanation {
         std::vector<std::string> names;
         for (const JointForce& force : step.Unknown) names.push_back(force.Name);
         text_.Line("Unknown here: " + Joined(names) + ".");
+        ExplainDirections(step.Unknown);
         for (const int axis : {0, 1}) ExplainEquation(step, axis);
         if (step.Unknown.size() == 1) return ExplainOne(step);
         ExplainTwo(step);
@@ -303,14 +306,17 @@ class TrussExplanation {
             ". Their equations must be solved all at once, as Compute does. With its "
             "results they hold:");
         for (const int joint : joints) {
+            const std::vector<JointForce> forces = ForcesAt(model_, results_, joint);
             text_.Line("Joint " + results_.JointName[joint]);
-            for (const int axis : {0, 1}) CheckAxis(ForcesAt(model_, results_, joint), axis);
+            ExplainDirections(forces);
+            for (const int axis : {0, 1}) CheckAxis(forces, axis);
         }
     }
 
     const TrussModel& model_;
     const TrussResults& results_;
     std::vector<ZeroMember> zeros_;
+    std::set<int> directed_; ///< members whose direction is told
     double largest_ = 0;
     Narration text_;
 };

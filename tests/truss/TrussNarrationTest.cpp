@@ -163,6 +163,18 @@ TEST(ExplainTruss, WorksTwentyFourBays)
     ExpectMemberResults(ParallelChords(24));
 }
 
+TEST(ExplainTruss, TellsADirectionOnceAtTheJointThatNeedsItFirst)
+{
+    const std::string text = Explain(Triangle());
+    const auto at = [&text](std::string_view part) { return text.find(part); };
+    EXPECT_LT(at("Joint A"), at("Length AB = ")); // A is the first joint of the walk
+    EXPECT_LT(at("Length AB = "), at("ABx = "));
+    EXPECT_LT(at("ABy = "), at("Sum Fx: AC"));
+    EXPECT_LT(at("Joint B"), at("Length BC = "));
+    EXPECT_EQ(text.find("Length AB = ", at("Length AB = ") + 1), std::string::npos);
+    EXPECT_EQ(at("Length AC"), std::string::npos); // level
+}
+
 TEST(ExplainTruss, HasNothingToSayWithoutResults)
 {
     EXPECT_EQ(ExplainTruss(Triangle(), {}), "");
