@@ -24,7 +24,7 @@ namespace {
 using screen::Form;
 using screen::Forms;
 
-constexpr int kStepsFromTheMenu = 2500;
+constexpr int kStepsFromTheMenu = 2000;
 constexpr int kRounds = 5; // of a work and a walk from it
 constexpr int kStepsOfRound = 300;
 constexpr std::uint32_t kSeed = 20253;
