@@ -2,6 +2,18 @@
 
 namespace forcelab::screen {
 
+namespace {
+
+/// The chosen option alone stops Tab; each of them does where none is chosen.
+void SetTabStop(const QButtonGroup& group)
+{
+    const QAbstractButton* chosen = group.checkedButton();
+    for (QAbstractButton* option : group.buttons())
+        option->setFocusPolicy(!chosen || option == chosen ? Qt::StrongFocus : Qt::ClickFocus);
+}
+
+} // namespace
+
 OptionArray::OptionArray(QWidget* parent, const char* name, int count)
     : ControlArray<OptionButton>(parent, name, count)
 {
@@ -24,6 +36,9 @@ void OptionArray::MakeGroup(QWidget* parent, std::span<const int> indices)
         group->addButton(&(*this)(index), index);
         groupOf_[index] = group;
     }
+    // Tab goes to the chosen option; Qt would first go to the first one, whichever is chosen.
+    QObject::connect(group, &QButtonGroup::idToggled, group,
+                     [group](int, bool) { SetTabStop(*group); });
 }
 
 void OptionArray::SetCaptions(std::span<const std::string_view> captions)

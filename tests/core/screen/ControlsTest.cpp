@@ -120,6 +120,31 @@ TEST_F(Controls, EachGroupOfOptionsHasItsOwnChoice)
     EXPECT_EQ(sample_->optSense.Chosen(1), 1);
 }
 
+TEST_F(Controls, TabGoesToTheChosenOptionOfEachGroup)
+{
+    sample_->optSense.Choose(1);
+    sample_->optSense.Choose(2);
+    const auto stopsAt = [this] {
+        std::vector<int> stops;
+        for (const auto& [index, option] : sample_->optSense.Members())
+            if (option->focusPolicy() & Qt::TabFocus) stops.push_back(index);
+        return stops;
+    };
+    EXPECT_EQ(stopsAt(), (std::vector{1, 2}));
+    QWidget* before = &sample_->txtStress(1);
+    for (const auto& [index, option] : sample_->optSense.Members()) {
+        QWidget::setTabOrder(before, option);
+        before = option;
+    }
+    sample_->txtStress(1).setFocus();
+    Press("txtStress(1)", Qt::Key_Tab);
+    EXPECT_EQ(FocusedControl(), "optSense(1)");
+    QTest::keyClick(&sample_->optSense(1), Qt::Key_Tab);
+    EXPECT_EQ(FocusedControl(), "optSense(2)");
+    sample_->optSense.ChooseNone(2);
+    EXPECT_EQ(stopsAt(), (std::vector{1, 2, 3}));
+}
+
 TEST_F(Controls, TheMaterialListHasTheRowsOfItsTable)
 {
     const int before = MaterialTableLoaded;

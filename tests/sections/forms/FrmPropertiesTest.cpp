@@ -433,9 +433,9 @@ TEST_F(PropertiesForm, TabGoesFromTheBoxesToTheButtons)
               [this](const auto& a, const auto& b) { return Widget(a).x() < Widget(b).x(); });
     const auto chain = TabChain(&Widget(boxes.front()));
     std::vector<std::string> expected = boxes;
-    for (const char* name : {"optShapeUnits(0)", "optShapeUnits(1)", "cmdShape(3)"})
+    // Of options the chosen one stops Tab; arrow keys choose among them.
+    for (const char* name : {"optShapeUnits(0)", "cmdShape(3)", "optShapeRotate(0)"})
         expected.emplace_back(name);
-    for (int i = 0; i < 4; ++i) expected.push_back("optShapeRotate(" + std::to_string(i) + ")");
     for (int i = 0; i < 3; ++i) expected.push_back("cmdShape(" + std::to_string(i) + ")");
     ASSERT_GE(chain.size(), expected.size());
     EXPECT_EQ(std::vector(chain.begin(), chain.begin() + long(expected.size())), expected);
