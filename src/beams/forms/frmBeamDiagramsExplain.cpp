@@ -1,6 +1,7 @@
 #include "beams/BeamCurves.h"
 #include "beams/DiagramRequest.h"
 #include "beams/forms/frmBeamDiagrams.h"
+#include "core/screen/NarrationBox.h"
 
 #include <QScrollBar>
 
@@ -22,7 +23,7 @@ void frmBeamDiagrams::Explain(int pane, std::string_view caption, const Teller& 
     if (text.empty()) return;
     const ExplainPane& shown = panes_.at(std::size_t(pane));
     shown.Frame->SetCaption(caption);
-    shown.Text->setPlainText(screen::Q(text));
+    screen::ShowNarration(*shown.Text, text);
     told_ = tell;
     paneOpen_ = pane;
     ShowPane(pane);
@@ -41,7 +42,7 @@ void frmBeamDiagrams::ExplainAgain()
     if (text.empty()) return CloseExplanation();
     QPlainTextEdit* box = panes_.at(std::size_t(paneOpen_)).Text;
     const int line = box->verticalScrollBar()->value();
-    box->setPlainText(screen::Q(text));
+    screen::ShowNarration(*box, text);
     box->verticalScrollBar()->setValue(line);
 }
 

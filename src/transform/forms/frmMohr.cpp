@@ -7,6 +7,7 @@
 #include "core/Units.h"
 #include "core/screen/Forms.h"
 #include "core/screen/Help.h"
+#include "core/screen/NarrationBox.h"
 #include "core/screen/Services.h"
 #include "transform/MohrDrawing.h"
 #include "transform/MohrNarration.h"
@@ -142,7 +143,7 @@ void frmMohr::cmdMohr_Click(int Index)
 void frmMohr::ToggleDetails()
 {
     const bool show = txtDetails->isHidden();
-    if (show) txtDetails->setPlainText(screen::Q(ExplainMohr(CurrentStress, shown_)));
+    if (show) screen::ShowNarration(*txtDetails, ExplainMohr(CurrentStress, shown_));
     ShowDetails(show);
 }
 
@@ -341,7 +342,7 @@ void frmMohr::TakeUp(StressState state, const MohrEntry& entry)
         lblStressFromStrains(1).SetCaption(stresses[0]);
         lblStressFromStrains(2).SetCaption(stresses[1]);
         lblStressFromStrains(4).SetCaption(stresses[2]);
-        txtDetails->setPlainText(screen::Q(details));
+        screen::ShowNarration(*txtDetails, details);
     }
     CurrentStress = state;
     shown_ = entry;
