@@ -19,7 +19,8 @@ namespace {
 constexpr double kLinesAbove = 2.5; // text heights added to the scale
 constexpr double kLinesBelow = 3.5;
 constexpr double kUnitPlace = -3.2; // widths of a character
-constexpr double kCurveWidth = 2;   // pixels
+constexpr double kLinesOfJump = 1.5;
+constexpr double kCurveWidth = 2; // pixels
 constexpr double kTitleLeft = 4;
 constexpr double kArrowHead = 6;
 constexpr double kDot = 3;
@@ -283,6 +284,17 @@ class CurveSheet {
         return labels;
     }
 
+    /// Of the two ends of a jump lower than a label, the upper is labelled above the curve and the
+    /// lower below it, or the eye would take one value for the other.
+    void LeanOffJump(CurveLabel& label, HAlign lean, int otherEnd) const
+    {
+        label.Lean = lean;
+        const double otherY = pic_.ToPixels({0, Height(LabelValue(otherEnd))}).Y;
+        const double jump = std::abs(otherY - label.Y);
+        label.KeepSide = jump > 0 && jump <= kLinesOfJump * board_.LineHeight();
+        if (label.KeepSide) label.Above = label.Y < otherY;
+    }
+
     [[nodiscard]] CurveLabel LabelOf(int i) const
     {
         const int count = curves_.*table_.LabelCount;
@@ -290,11 +302,11 @@ class CurveSheet {
         const double size = extremes[2][table_.SizeRow];
         // What rounding leaves of a zero is shown as one.
         const double value = std::abs(LabelValue(i)) > kRoundedOff * size ? LabelValue(i) : 0;
-        const PicturePoint at = pic_.ToPixels({LabelX(i), Height(value)});
-        CurveLabel label{at.X, at.Y, table_.Text(value, units_), RiseAt(i) >= 0, HAlign::Centre,
-                         0,    false};
-        if (i < count && LabelX(i + 1) - LabelX(i) < kJump) label.Lean = HAlign::Right;
-        if (i > 1 && LabelX(i) - LabelX(i - 1) < kJump) label.Lean = HAlign::Left;
+        const double x = LabelX(i);
+        const PicturePoint at = pic_.ToPixels({x, Height(value)});
+        CurveLabel label{at.X, at.Y, table_.Text(value, units_), RiseAt(i) >= 0};
+        if (i < count && LabelX(i + 1) - x < kJump) LeanOffJump(label, HAlign::Right, i + 1);
+        if (i > 1 && x - LabelX(i - 1) < kJump) LeanOffJump(label, HAlign::Left, i - 1);
         label.Weight = size > 0 ? std::abs(value) / size : 0;
         if (value != 0 &&
             (value == extremes[2][table_.SizeRow + 1] || value == extremes[2][table_.SizeRow + 2]))

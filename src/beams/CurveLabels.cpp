@@ -11,9 +11,10 @@ namespace forcelab::beams {
 
 namespace {
 
-constexpr double kNear = 2;      // pixels from the curve to its label
-constexpr double kClear = 1.5;   // pixels kept off the curve
-constexpr double kOtherSide = 5; // what the less liked side costs, in pixels of distance
+constexpr double kNear = 2;       // pixels from the curve to its label
+constexpr double kClear = 1.5;    // pixels kept off the curve
+constexpr double kOtherSide = 5;  // what the less liked side costs, in pixels of distance
+constexpr double kFalseSide = 25; // what the other side costs where it misleads
 constexpr double kOtherLean = 3;
 constexpr double kWrongLean = 9; // on the other side of a jump
 constexpr double kBaselineCost = 7;
@@ -115,6 +116,7 @@ class Arranger {
     void Search(const CurveLabel& label)
     {
         const double half = board_.LineHeight() / 2;
+        const double otherSide = label.KeepSide ? kFalseSide : kOtherSide;
         constexpr int kSteps = 7;
         for (int step = 0; step < kSteps; ++step)
             for (const bool above : {label.Above, !label.Above})
@@ -122,7 +124,7 @@ class Arranger {
                      {label.Lean, HAlign::Centre, HAlign::Left, HAlign::Right}) {
                     const double away = kNear + step * half;
                     const double cost =
-                        away + (above == label.Above ? 0 : kOtherSide) + LeanCost(label.Lean, lean);
+                        away + (above == label.Above ? 0 : otherSide) + LeanCost(label.Lean, lean);
                     if (cost < cost_) Consider(label, away, above, lean, cost);
                 }
     }

@@ -12,6 +12,7 @@ struct CurveLabel {
     double Column = 0, Y = 0; ///< the point of the curve
     std::string Text;
     bool Above = true;            ///< the side that it prefers
+    bool KeepSide = false;        ///< on the other side it would read as another point's value
     HAlign Lean = HAlign::Centre; ///< where its point lies on the label
     double Weight = 0;            ///< the heavier are placed first
     bool Repeats = false;         ///< says what its neighbour on a level piece says

@@ -10,8 +10,8 @@ namespace forcelab::beams {
 
 namespace {
 
-constexpr double kLeftShare = 0.11; // of the sheet's width
-constexpr double kNarrowestLeft = 62;
+constexpr double kLeftShare = 0.11;   // of the sheet's width
+constexpr double kNarrowestLeft = 72; // "Deflection" stands there
 constexpr double kWidestLeft = 84;
 constexpr double kRightShare = 0.07;
 constexpr double kNarrowestRight = 44;

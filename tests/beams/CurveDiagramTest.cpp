@@ -189,6 +189,38 @@ TEST(DrawCurveDiagram, LabelsStandAboveARiseAndBelowAFall)
     EXPECT_GT(labels[1].Y1, plateau.Y);
 }
 
+TEST(DrawCurveDiagram, OfASmallJumpTheUpperValueStandsAboveTheLower)
+{
+    BeamRecord beam = Simple(10, kFoot);
+    Add(beam, kUniformDown, 0, 10, 100, kLb);
+    Add(beam, kPointDown, 5, 0, 20, kLb);
+    RecordingPicture pic(860, 240);
+    Draw(pic, CurveKind::Shear, beam, UnitsOf(beam, kLb));
+    const auto labelOf = [&](const char* text) {
+        for (const auto& box : pic.TextBoxes())
+            if (box.Text == Local(text) && box.Y2 < pic.HeightPixels() - 30) return box;
+        ADD_FAILURE() << text;
+        return RecordingPicture::PixelBox{};
+    };
+    EXPECT_LT(labelOf("10.0").Y2, pic.ToPixels({0, 0}).Y);
+    EXPECT_GT(labelOf("-10.0").Y1, pic.ToPixels({0, 0}).Y);
+}
+
+TEST(DrawCurveDiagram, TitlesKeepOffTheCurves)
+{
+    constexpr std::array<const char*, 4> kTitles{"Shear", "Moment", "Slope", "Deflection"};
+    const BeamRecord beam = UniformAndPoint();
+    for (const double width : {384.0, 584.0, 840.0})
+        for (const CurveKind kind : kKinds) {
+            RecordingPicture pic(width, 140);
+            Draw(pic, kind, beam, UnitsOf(beam, kKn));
+            for (const auto& box : pic.TextBoxes())
+                EXPECT_TRUE(box.Text != kTitles[std::size_t(kind)] ||
+                            box.X2 < pic.ToPixels({0, 0}).X)
+                    << width << " " << box.Text;
+        }
+}
+
 TEST(DrawCurveDiagram, TheMarkerStandsAtThePoint)
 {
     const BeamRecord beam = UniformAndPoint();
