@@ -11,6 +11,7 @@
 #include <QSplitter>
 
 #include <array>
+#include <set>
 
 class QHBoxLayout;
 
@@ -119,6 +120,8 @@ class frmBeamDiagramsLayout : public screen::Form {
     std::array<QWidget*, 4> curvePlaces_{};
     std::array<QWidget*, 4> messages_{}; ///< beside the name of a diagram, or below it
     std::array<QHBoxLayout*, 3> unitLines_{};
+    // Qt calls a group hidden for a moment when its line becomes its parent.
+    std::set<QWidget*> shownUnits_;
     QWidget* unitPlace_ = Make<QWidget>("unitPlace");
     QWidget* barPlace_ = Make<QWidget>("barPlace");
     QWidget* panePlace_ = Make<QWidget>("panePlace");

@@ -38,7 +38,7 @@ void frmBeamDiagramsLayout::PlaceUnits(int width)
     std::size_t line = 0;
     int left = width;
     for (QWidget* group : units_) {
-        if (group->isHidden()) continue;
+        if (!shownUnits_.contains(group)) continue;
         const int wanted = group->sizeHint().width();
         if (wanted > left && left < width && line + 1 < unitLines_.size()) {
             unitLines_[line++]->addStretch(1);
@@ -131,8 +131,9 @@ void frmBeamDiagramsLayout::ShowCurvesOf(bool slopeView)
         curvePlaces_[std::size_t(diagram)]->setVisible(shown);
         CurvePicture(diagram).setVisible(shown);
     }
-    for (QWidget* group : {picForceUnits, picMomentUnits}) group->setVisible(!slopeView);
-    for (QWidget* group : {picSlopeUnits, picDeflectionUnits}) group->setVisible(slopeView);
+    shownUnits_ = slopeView ? std::set<QWidget*>{picLengthUnits, picSlopeUnits, picDeflectionUnits}
+                            : std::set<QWidget*>{picLengthUnits, picForceUnits, picMomentUnits};
+    for (QWidget* group : units_) group->setVisible(shownUnits_.contains(group));
     SetFormWidthRows();
 }
 

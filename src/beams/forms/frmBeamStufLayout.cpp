@@ -16,7 +16,7 @@ using screen::Q;
 
 namespace {
 
-constexpr int kPlaceWidth = 430; // of the frame that is open, pixels
+constexpr int kPlaceWidth = 398; // of the frame that is open, pixels
 constexpr int kPlaceHeight = 256;
 constexpr int kWidest = 560;
 constexpr int kCaptionWidth = 110;

@@ -68,6 +68,23 @@ TEST_F(DiagramView, NothingIsClippedAtAnyWidth)
     }
 }
 
+TEST_F(DiagramView, UnitsStandApartWhereTheWidthChangesWithTheView)
+{
+    UseSteelSection();
+    MetreBeam();
+    TheForm().resize(1280, 800);
+    QCoreApplication::processEvents();
+    TheForm().findChild<QAction*>("mnuSlopeDeflection")->trigger(); // and no event before the next
+    TheForm().resize(604, 700);
+    QTest::qWait(1);
+    const QRect length = Widget("picLengthUnits").geometry();
+    const QRect slope = Widget("picSlopeUnits").geometry();
+    const QRect deflection = Widget("picDeflectionUnits").geometry();
+    EXPECT_FALSE(length.intersects(slope) || length.intersects(deflection) ||
+                 slope.intersects(deflection));
+    EXPECT_GE(slope.width(), Widget("picSlopeUnits").sizeHint().width());
+}
+
 TEST_F(DiagramView, PicturesAreOfOneWidth)
 {
     MetreBeam();
