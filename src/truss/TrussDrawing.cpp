@@ -283,6 +283,17 @@ WaitingLabels BesideJoints(const Picture& pic, WaitingLabels letters)
     return letters;
 }
 
+/// The letters of the joints that are named, where `at` puts their grid points.
+template <class PlaceOf>
+void LetterJoints(TrussSheet& sheet, const JointList& joints, const std::vector<std::string>& names,
+                  PlaceOf at)
+{
+    for (int joint = 1; joint <= joints.JointCount; ++joint)
+        if (std::find(names.begin(), names.end(), JointNameOf(joint)) != names.end())
+            sheet.Label({at(joints.JointGridPoint[joint])}, kPi / 2, JointNameOf(joint),
+                        kLetterColour, LabelNeed::Anywhere);
+}
+
 } // namespace
 
 void ScalePicture(Picture& pic, const TrussModel& model)
@@ -300,7 +311,7 @@ void DrawGridMarks(Picture& pic, const TrussModel& model)
     DrawLevelMarks(pic, model);
 }
 
-void DrawTruss(Picture& pic, const TrussModel& model)
+void DrawTruss(Picture& pic, const TrussModel& model, const std::vector<std::string>& lettered)
 {
     pic.Cls();
     if (!model.HasGrid()) return;
@@ -319,6 +330,9 @@ void DrawTruss(Picture& pic, const TrussModel& model)
         PlaceOn(sheet, angles);
     else
         Place(sheet, angles, LabelNeed::IfRoom);
+    LetterJoints(sheet, joints, lettered, [&model](int point) {
+        return PicturePoint{model.GridPoints[point].X, model.GridPoints[point].Y};
+    });
     pic.DrawWidth = 1;
 }
 
@@ -378,13 +392,7 @@ void DrawMotion(Picture& pic, const TrussModel& model, const Mechanism& motion, 
         sheet.Line(a.X, a.Y, b.X, b.Y);
     }
     DrawSupports(sheet, model, joints);
-    for (int joint = 1; joint <= joints.JointCount; ++joint) {
-        const std::string name = JointNameOf(joint);
-        if (std::find(motion.Moving.begin(), motion.Moving.end(), name) == motion.Moving.end())
-            continue;
-        sheet.Label({moved(joints.JointGridPoint[joint])}, kPi / 2, name, kLetterColour,
-                    LabelNeed::Anywhere);
-    }
+    LetterJoints(sheet, joints, motion.Moving, moved);
     pic.DrawWidth = 1;
 }
 

@@ -4,6 +4,9 @@
 #include "truss/TrussEditor.h"
 #include "truss/TrussSolver.h"
 
+#include <string>
+#include <vector>
+
 namespace forcelab::truss {
 
 /// Gives a picture the scale of the model's grid, y upward.
@@ -13,8 +16,10 @@ void ScalePicture(Picture& pic, const TrussModel& model);
 /// room for all, every second, fifth, tenth or twenty-fifth coordinate is written.
 void DrawGridMarks(Picture& pic, const TrussModel& model);
 
-/// The truss in editing: grid, members, their angles, supports and loads. Clears the picture.
-void DrawTruss(Picture& pic, const TrussModel& model);
+/// The truss in editing: grid, members, their angles, supports and loads, and the letters of the
+/// joints that are named. Clears the picture.
+void DrawTruss(Picture& pic, const TrussModel& model,
+               const std::vector<std::string>& lettered = {});
 
 /// The results over a grid that is drawn already: members coloured by their force, forces, joint
 /// letters and reactions. Widths in pixels.

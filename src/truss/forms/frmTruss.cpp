@@ -3,6 +3,7 @@
 #include "core/MainModule.h"
 #include "core/screen/Forms.h"
 #include "core/screen/Help.h"
+#include "core/screen/NarrationBox.h"
 #include "truss/MemberStress.h"
 #include "truss/TrussNarration.h"
 #include "truss/forms/frmDefGrid.h"
@@ -11,6 +12,7 @@
 #include <QSignalBlocker>
 
 #include <array>
+#include <utility>
 
 namespace forcelab::truss {
 
@@ -179,7 +181,7 @@ void frmTruss::Instruct(std::string_view text)
     cmdGridMake->setText(cmdGridMake->text()); // brings its shortcut back
     if (begins) cmdGridMake->setShortcut({});
     lblInstruct->SetCaption(text);
-    motionTold_ = false;
+    if (std::exchange(motionTold_, false)) picTruss->Refresh(); // the letters of the joints go
 }
 
 // The model in editing, which ends every change of it.
@@ -250,7 +252,7 @@ void frmTruss::cmdExplain_Click()
 
 void frmTruss::Explain(const std::string& text)
 {
-    txtExplain->setPlainText(Q(text));
+    screen::ShowNarration(*txtExplain, text);
     cmdExplain->setEnabled(!text.empty());
     cmdExplain_Click();
 }

@@ -9,6 +9,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 class QKeyEvent;
 
@@ -86,8 +87,9 @@ class frmTruss : public frmTrussLayout {
     GridKeys keys_;
     TrussResults results_;
     std::optional<Mechanism> motion_;
-    int tick_ = 0;            ///< of the motion
-    bool motionTold_ = false; ///< lblInstruct tells of a motion
+    int tick_ = 0;                    ///< of the motion
+    bool motionTold_ = false;         ///< lblInstruct tells of a motion
+    std::vector<std::string> moving_; ///< the joints that it names
 
     QTimer* timMotion = Make<QTimer>("timMotion");
     QAction* mnuTrussStress = nullptr;

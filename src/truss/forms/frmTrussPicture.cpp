@@ -51,7 +51,7 @@ void frmTruss::picTruss_Paint(Picture& pic)
         return DrawMotion(pic, CurrentTruss, *motion_, std::sin(turn));
     }
     if (ResultsShown) return DrawResults(pic, kMemberWidth, kJointWidth);
-    DrawTruss(pic, CurrentTruss);
+    DrawTruss(pic, CurrentTruss, motionTold_ ? moving_ : std::vector<std::string>{});
 }
 
 // The rubber band and the cursor, for which nothing under them is drawn again.
@@ -95,6 +95,7 @@ void frmTruss::StartMotion(const Mechanism& motion)
     tick_ = 0;
     Instruct(ExplainMotion(motion));
     motionTold_ = true;
+    moving_ = motion.Moving;
     QCoreApplication::instance()->installEventFilter(this);
     timMotion->start(kTickTime);
     picTruss->Refresh();

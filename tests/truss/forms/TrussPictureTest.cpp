@@ -5,6 +5,9 @@
 namespace forcelab::truss {
 namespace {
 
+using testing::AllOf;
+using testing::Not;
+
 /// What the picture shows while it moves and while it is drawn on.
 class TrussPicture : public TrussFormTest {
   protected:
@@ -47,9 +50,13 @@ TEST_F(TrussPicture, MotionEndsByItself)
     TicksOfMotion(1000);
     EXPECT_FALSE(Motion().isActive());
     EXPECT_THAT(Shown("picTruss"), HasSubstr(Local("5.0"))); // the model with its load again
-    EXPECT_THAT(Shown("lblInstruct"), HasSubstr("can move"));
+    EXPECT_THAT(Shown("lblInstruct"), HasSubstr("Joints B and D can move"));
+    EXPECT_THAT(Shown("picTruss"), AllOf(HasSubstr("B"), HasSubstr("D")));
+    const QImage lettered = Painted();
     Choose("optTrussDefine(0)");
     EXPECT_THAT(Shown("lblInstruct"), HasSubstr("To define a truss member"));
+    EXPECT_THAT(Shown("picTruss"), AllOf(Not(HasSubstr("B")), Not(HasSubstr("D"))));
+    EXPECT_NE(Painted(), lettered);
 }
 
 TEST_F(TrussPicture, AnyClickAndAnyKeyEndTheMotion)
