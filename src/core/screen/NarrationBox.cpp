@@ -20,18 +20,28 @@ bool IsHeading(const QTextBlock& block)
            !text.endsWith(u':');
 }
 
-/// Spaces that a line must not break at become such that it cannot; they read as spaces.
+constexpr qsizetype kLongestWhole = 24; // letters of a pair of parentheses that stays in one line
+
+/// Makes the spaces from `first` to `last` such that no line breaks at them; they read as spaces.
+void Join(QString& line, qsizetype first, qsizetype last)
+{
+    for (qsizetype i = first; i <= last; ++i)
+        if (line[i] == u' ') line[i] = QChar::Nbsp;
+}
+
+/// Keeps short parentheses in one line, and the last number with its unit.
 QString Joined(QString line)
 {
     if (!line.contains(u'=')) return line;
-    int depth = 0;
-    for (QChar& c : line) {
-        if (c == u'(') ++depth;
-        if (c == u')') --depth;
-        if (c == u' ' && depth > 0) c = QChar::Nbsp;
+    qsizetype open = -1;
+    for (qsizetype i = 0; i < line.size(); ++i) {
+        if (line[i] == u'(') open = i;
+        if (line[i] != u')' || open < 0) continue;
+        if (i - open < kLongestWhole) Join(line, open, i);
+        open = -1;
     }
     const auto last = line.lastIndexOf(u' ');
-    if (last > 0 && line[last - 1] != u'=') line[last] = QChar::Nbsp;
+    if (last > 0 && line[last - 1] != u'=') Join(line, last, last);
     return line;
 }
 

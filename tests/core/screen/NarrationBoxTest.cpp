@@ -58,5 +58,13 @@ TEST(ShowNarration, ArithmeticBreaksNeitherInParenthesesNorBeforeItsUnit)
     EXPECT_TRUE(box.document()->findBlockByNumber(1).text().contains(u' '));
 }
 
+TEST(ShowNarration, ALongSumInParenthesesBreaksBetweenItsTerms)
+{
+    QPlainTextEdit box;
+    ShowNarration(box, "R = -(5.0 × (-20.0 - 1.0) + 10.0 × (-20.0) + 15.0 × (-40.0)) ÷ 3.0 = 9 kN");
+    const QString line = box.document()->firstBlock().text();
+    EXPECT_TRUE(line.contains(QStringLiteral("(-20.0 - 1.0) + 10.0"))) << qPrintable(line);
+}
+
 } // namespace
 } // namespace forcelab::screen
