@@ -31,7 +31,7 @@ void TellShearDiagram(const PieceTeller& teller)
         teller.TellShear(piece);
         teller.TellShearJump(piece.To);
     }
-    teller.Text.Line("Behind the right end nothing is left: the diagram has come back to zero.");
+    teller.Text.Line("Beyond the right end nothing is left: the diagram has come back to zero.");
 }
 
 void TellMomentDiagram(const PieceTeller& teller)

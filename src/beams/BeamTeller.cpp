@@ -186,7 +186,7 @@ void BeamTeller::ListLoads() const
 void BeamTeller::ListResultants() const
 {
     if (Beam.UniformLoadCount == 0) return;
-    Text.Line("A uniform load acts on the supports as one force W in its middle.");
+    Text.Line("For the reactions a uniform load counts as one force W in its middle.");
     for (int row = 1; row <= Beam.LoadCount; ++row) {
         if (Beam.LoadClass[row] != kUniformLoad) continue;
         const std::string& name = Beam.LoadName[row];

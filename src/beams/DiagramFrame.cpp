@@ -125,6 +125,14 @@ std::vector<double> FontSteps(double fontSize)
     return steps;
 }
 
+void FitText(Picture& pic, const std::string& text)
+{
+    for (const double step : FontSteps(pic.FontSize)) {
+        pic.FontSize = step;
+        if (std::abs(pic.ScaleX(pic.TextWidth(text))) <= pic.WidthPixels()) return;
+    }
+}
+
 std::vector<double> PositionsToPrint(const BeamRecord& beam, const std::vector<double>& more)
 {
     const PointList keys = BuildKeyPoints(beam);

@@ -65,6 +65,8 @@ class LabelBoard {
 
 /// The fonts that crowded labels try in turn, from the picture's own down to the smallest.
 std::vector<double> FontSteps(double fontSize);
+/// Chooses the largest of them in which a line of text is no wider than the picture.
+void FitText(Picture& pic, const std::string& text);
 
 /// The key points of a beam, ends and supports first, then `more`, then the loads.
 std::vector<double> PositionsToPrint(const BeamRecord& beam, const std::vector<double>& more);

@@ -221,6 +221,22 @@ TEST(DrawCurveDiagram, TitlesKeepOffTheCurves)
         }
 }
 
+TEST(FitText, TakesSmallerTypeUntilALineFits)
+{
+    RecordingPicture pic(300, 20);
+    pic.ScaleToPixels();
+    pic.FontSize = 14;
+    FitText(pic, "Beam 4");
+    EXPECT_EQ(pic.FontSize, 14);
+    const std::string longer = "A beam with two overhangs, by hand";
+    ASSERT_GT(pic.TextWidth(longer), 300);
+    FitText(pic, longer);
+    EXPECT_LT(pic.FontSize, 14);
+    EXPECT_LE(pic.TextWidth(longer), 300);
+    FitText(pic, std::string(1000, 'x'));
+    EXPECT_EQ(pic.FontSize, 6) << "the smallest, which must do";
+}
+
 TEST(DrawCurveDiagram, TheMarkerStandsAtThePoint)
 {
     const BeamRecord beam = UniformAndPoint();

@@ -1,3 +1,4 @@
+#include "beams/DiagramFrame.h"
 #include "beams/DiagramRequest.h"
 #include "beams/LoadDiagram.h"
 #include "beams/forms/frmBeamDiagrams.h"
@@ -60,7 +61,9 @@ double frmBeamDiagrams::PrintTexts(screen::Printer& printer, const std::string& 
     sheet->ScaleToPixels();
     sheet->FontSize = kTitleSize;
     sheet->FontBold = true;
-    PrintText(*sheet, 0, 0, title.empty() ? windowTitle().toStdString() : title);
+    const std::string heading = title.empty() ? windowTitle().toStdString() : title;
+    FitText(*sheet, heading);
+    PrintText(*sheet, 0, 0, heading);
     sheet->FontSize = kTextSize;
     sheet->FontBold = false;
     double top = kTitleHeight;

@@ -13,6 +13,7 @@ namespace {
 
 constexpr const char* kName = "frmStiffPrint";
 constexpr int kTitleWidth = 380; // pixels
+constexpr int kLongest = 100;    // letters that one line of the page holds
 
 } // namespace
 
@@ -29,6 +30,7 @@ void frmStiffPrint::Build()
     lblTitle->SetCaption("&Title");
     lblTitle->setBuddy(txtTitle);
     txtTitle->setMinimumWidth(kTitleWidth);
+    txtTitle->setMaxLength(kLongest);
     Describe(*txtTitle, "Title of the printed page");
     cmdOK->setText(Q("&OK"));
     cmdCancel->setText(Q("&Cancel"));
