@@ -9,7 +9,7 @@ namespace forcelab::truss {
 inline constexpr NumberStyle kForce{"###,##0.000"};
 inline constexpr NumberStyle kLoad{"###,##0.0##"};
 inline constexpr NumberStyle kCosine{"0.0####"};
-inline constexpr NumberStyle kComponent{"0.0000"};
+inline constexpr NumberStyle kComponent{"0.00000"};
 inline constexpr NumberStyle kLength{"####0.0##"};
 
 using SignedTerms = std::vector<SignedTerm>;

@@ -128,9 +128,8 @@ std::vector<Scene> BeamScenes()
     const Steps bent = Beam(kTwoSupports, kFoot, "10", "0", "10") +
                        Entered(kPointDown, "5", "", "1000", kLb) + WithSection(kW14X90) +
                        Steps{Click("cmdRefreshDiagrams")};
-    const Steps limits{Click("optSame(1)"),        Text("txtASD(0)", "24"),
-                       Text("txtASD(2)", "20"),    Text("txtASD(4)", "14.4"),
-                       Click("optStressUnits(1)"), Keep()};
+    const Steps limits{Click("optSame(1)"),     Click("optStressUnits(1)"), Text("txtASD(0)", "24"),
+                       Text("txtASD(2)", "20"), Text("txtASD(4)", "14.4"),  Keep()};
     const Steps slope{Menu("mnuSlopeDeflection")};
     return {
         {"beam-entry", kForm, {}, {}, simple + Typed(kUniformDown, "2", "6", "1.5", kKn)},
