@@ -45,7 +45,7 @@ class NormalPainter {
         DrawLines();
         DrawLevels();
         for (const bool outer : {true, false}) // the extremes choose their places first
-            for (const StressPiece& piece : pieces_) LabelEnds(piece, outer);
+            for (const StressPiece& piece : FromOutside()) LabelEnds(piece, outer);
     }
 
   private:
@@ -99,18 +99,43 @@ class NormalPainter {
         sheet_.PointLevel({X(atPoint_), details_.YInches()});
     }
 
+    /// The pieces as their labels stack up at a border: the one nearer to the edge first.
+    [[nodiscard]] std::vector<StressPiece> FromOutside() const
+    {
+        const SectionBounds& b = sheet_.Bounds();
+        const auto outward = [&](const StressPiece& piece) {
+            return std::abs(piece.Bottom + piece.Top - b.SectionBottom - b.SectionTop);
+        };
+        std::vector<StressPiece> pieces = pieces_;
+        std::stable_sort(pieces.begin(), pieces.end(),
+                         [&](const StressPiece& first, const StressPiece& second) {
+                             return outward(first) > outward(second);
+                         });
+        return pieces;
+    }
+
+    /// Where another piece goes on beyond an end, each of the two labels stands on its own side.
+    [[nodiscard]] bool GoesOn(double StressPiece::*end, double y) const
+    {
+        return std::any_of(pieces_.begin(), pieces_.end(),
+                           [&](const StressPiece& piece) { return piece.*end == y; });
+    }
+
     void LabelEnds(const StressPiece& piece, bool outer)
     {
         const SectionBounds& b = sheet_.Bounds();
         const std::string material =
             !section_.CompositeSection ? "" : (piece.Material == 1 ? " (B)" : " (A)");
-        const auto label = [&](double stress, double y, double angle, bool isOuter) {
+        const auto label = [&](double stress, double y, bool upward, bool isOuter) {
             if (isOuter != outer) return;
+            const double angle = upward ? kPi / 4 : -kPi / 4;
             sheet_.Text({X(stress), y}, WithUnit(stress) + material,
                         stress < 0 ? kPi - angle : angle, InkOfStress(stress), outer);
         };
-        label(piece.AtTop, piece.Top, kPi / 4, piece.Top == b.SectionTop);
-        label(piece.AtBottom, piece.Bottom, -kPi / 4, piece.Bottom == b.SectionBottom);
+        label(piece.AtTop, piece.Top, !GoesOn(&StressPiece::Bottom, piece.Top),
+              piece.Top == b.SectionTop);
+        label(piece.AtBottom, piece.Bottom, GoesOn(&StressPiece::Top, piece.Bottom),
+              piece.Bottom == b.SectionBottom);
     }
 
     const CrossSection& section_;

@@ -46,6 +46,34 @@ TEST(DrawNormalStress, SaysWhatItIs)
                               Local("4.096") + " ksi", std::string("N.A.")}));
 }
 
+double MiddleOf(const RecordingPicture& pic, const std::string& text)
+{
+    for (const auto& box : pic.TextBoxes())
+        if (box.Text == text) return (box.Y1 + box.Y2) / 2;
+    ADD_FAILURE() << "no text " << text;
+    return 0;
+}
+
+/// At each border the label of the upper material stands above that of the lower one, or beside it
+/// where the small stress has room across the axis.
+TEST(DrawNormalStress, LabelsAtABorderStandInTheOrderOfTheMaterials)
+{
+    // By hand with n = 18 and 2, 100 in-kips: the T's centroid is 7.487 in above its bottom and
+    // I = 1284.48 in4, the I's centroid in the middle and I = 293.78 in4, all as Material A.
+    const Worked tee = Composite(kTShape, {6, 0.5, 10, 6}, {10, 9}, 18);
+    const Worked i = Composite(kIShape, {6, 0.5, 9, 0.375}, {10, 9, 10}, 2);
+    const auto ksi = [](const char* number, const char* material) {
+        return Local(number) + " ksi (" + material + ")";
+    };
+    for (const double width : {305.0, 330.0, 360.0, 480.0}) {
+        const Drawn t(1, tee, Details(tee, TeeEntry(), kNormalView), width, 340);
+        EXPECT_LT(MiddleOf(t.Pic, ksi("-3.522", "B")), MiddleOf(t.Pic, ksi("-0.1957", "A")) + 1);
+        const Drawn both(1, i, Details(i, TeeEntry(), kNormalView), width, 340);
+        EXPECT_LT(MiddleOf(both.Pic, ksi("-3.064", "B")), MiddleOf(both.Pic, ksi("-1.532", "A")));
+        EXPECT_LT(MiddleOf(both.Pic, ksi("1.532", "A")), MiddleOf(both.Pic, ksi("3.064", "B")));
+    }
+}
+
 TEST(DrawShearStress, SaysWhatItIs)
 {
     const Drawn drawn(3, Tee(), Details(Tee()), 420);
