@@ -32,7 +32,8 @@ int Place(double steps)
 
 bool HasStressSection(const CrossSection& section)
 {
-    if (section.ShapeIndex <= 0) return false;
+    // A shape that was only chosen still has the properties of the one before it.
+    if (section.ShapeIndex <= 0 || !section.SectionComputed) return false;
     const StressProperties p = StressPropertiesOf(section);
     return p.Area > 0 && p.Inertia > 0;
 }

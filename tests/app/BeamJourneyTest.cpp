@@ -156,5 +156,129 @@ TEST_F(BeamJourney, TheStressItemWaitsForASection)
     EXPECT_TRUE(IsEnabled("mnuStress"));
 }
 
+TEST_F(BeamJourney, AShapeThatIsOnlyChosenHasNoStresses)
+{
+    EnterSpan();
+    ChooseTee();
+    Use("frmBeamStuf");
+    Trigger("mnuStress");
+    Use("frmDetails");
+    Type("txtSpecificPoint", "2");
+    Click("cmdSpecificPoint");
+    Click("cmdVM(0)");
+    Use("frmBeamStuf");
+    Trigger("mnuSectionProperties");
+    Use("frmProperties");
+    Trigger("mnuRectangular(0)");
+    Trigger("mnuBack");
+    Use("frmBeamStuf");
+    Trigger("mnuStress");
+    Use("frmDetails");
+    EXPECT_FALSE(IsVisible("picST(0)")) << "half of the T";
+    EXPECT_FALSE(IsVisible("txtKeyStresses(0)"));
+    ChooseTee();
+    Use("frmBeamStuf");
+    Trigger("mnuStress");
+    Use("frmDetails");
+    EXPECT_TRUE(IsVisible("picST(0)"));
+    Click("cmdVM(0)");
+    EXPECT_THAT(Shown("txtKeyStresses(0)"), HasSubstr(Local("491.5")));
+}
+
+TEST_F(BeamJourney, AnEntryBegunWaitsBehindTheMainMenu)
+{
+    EnterSpan();
+    Click("optLoadType(3)");
+    Type("txtStartUniform", "1");
+    Trigger("mnuBack");
+    Use("frmMainMenu");
+    Trigger("mnuBeams");
+    Use("frmBeamStuf");
+    EXPECT_EQ(Shown("txtStartUniform"), "1");
+    EXPECT_FALSE(IsVisible("cmdRefreshDiagrams")) << "not beside an open frame";
+    Type("txtEndUniform", "4");
+    Type("txtUniform(0)", "100");
+    Click("cmdEnterLoad");
+    EXPECT_EQ(beams::CurrentBeam.LoadCount, 2);
+    EXPECT_TRUE(Forms::IsVisible("frmBeamDiagrams"));
+}
+
+TEST_F(BeamJourney, AShorterBeamTakesThePointToItsEnd)
+{
+    EnterSpan();
+    ChooseTee();
+    Use("frmBeamStuf");
+    Trigger("mnuStress");
+    Use("frmDetails");
+    Type("txtSpecificPoint", "9");
+    Click("cmdSpecificPoint");
+    EXPECT_EQ(Shown("txtVM(2)"), Local("500.00"));
+    Click("cmdVM(0)");
+    Use("frmBeamStuf");
+    Click("cmdBeamType(0)");
+    Type("txtBeamLength", "8");
+    Type("txtRightSimple", "8");
+    Click("cmdBeamDefineOK");
+    Use("frmDetails");
+    EXPECT_EQ(Shown("txtSpecificPoint"), Local("8.00"));
+    EXPECT_EQ(Shown("txtVM(2)"), Local("0.00"));
+    EXPECT_FALSE(IsVisible("txtKeyStresses(0)")) << "no moment, no normal stress";
+}
+
+TEST_F(BeamJourney, MohrsCircleOutlivesTheBeamThatItsPointCameFrom)
+{
+    EnterSpan();
+    ChooseTee();
+    Use("frmBeamStuf");
+    Trigger("mnuStress");
+    Use("frmDetails");
+    Type("txtSpecificPoint", "2");
+    Click("cmdSpecificPoint");
+    Click("cmdVM(2)");
+    Use("frmBeamStuf");
+    Trigger("mnuNew");
+    EXPECT_FALSE(Forms::IsLoaded("frmDetails"));
+    Use("frmMohr");
+    Trigger("mnuBack");
+    Use("frmDetails");
+    EXPECT_EQ(Shown("txtSpecificPoint"), "");
+    EXPECT_EQ(Shown("txtVM(2)"), Local("0.00"));
+    EXPECT_TRUE(IsVisible("picST(0)")) << "the section is still there";
+    Click("cmdVM(3)");
+    EXPECT_TRUE(Forms::IsVisible("frmBeamStuf"));
+    EXPECT_FALSE(Forms::IsVisible("frmDetails"));
+}
+
+TEST_F(BeamJourney, FileNewForgetsViewPointAndSection)
+{
+    EnterSpan();
+    ChooseTee();
+    Use("frmBeamDiagrams");
+    Trigger("mnuSlopeDeflection");
+    Use("frmBeamStuf");
+    Trigger("mnuStress");
+    Use("frmDetails");
+    Type("txtSpecificPoint", "2");
+    Click("cmdSpecificPoint");
+    Use("frmBeamStuf");
+    Trigger("mnuBack");
+    Use("frmMainMenu");
+    Trigger("mnuStartOver");
+    for (const char* form : {"frmBeamStuf", "frmBeamDiagrams", "frmDetails", "frmProperties"})
+        EXPECT_FALSE(Forms::IsLoaded(form)) << form;
+    Trigger("mnuBeams");
+    Use("frmBeamStuf");
+    EnterSpan();
+    EXPECT_EQ(beams::CurrentBeam.LoadCount, 1);
+    EXPECT_FALSE(IsEnabled("mnuStress"));
+    Use("frmBeamDiagrams");
+    EXPECT_FALSE(IsChosen("mnuSlopeDeflection"));
+    Trigger("mnuSpecificPoint");
+    Use("frmDetails");
+    EXPECT_EQ(Shown("lblPointName(0)"), "Shear Force");
+    EXPECT_EQ(Shown("lblPointValue(0)"), "Not calculated");
+    EXPECT_FALSE(IsVisible("picST(0)"));
+}
+
 } // namespace
 } // namespace forcelab::test

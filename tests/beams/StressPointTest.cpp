@@ -75,6 +75,10 @@ TEST(HasStressSection, NeedsAComputedShape)
     EXPECT_TRUE(HasStressSection(test::Tee().Section));
     EXPECT_TRUE(
         HasStressSection(test::Composite(sections::kTShape, {8, 1, 9, 1}, {9, 10}, 2).Section));
+    section = test::Tee().Section;
+    sections::TakeShape(section, sections::kRectangle);
+    section.SectionComputed = false; // as choosing it on the form does
+    EXPECT_FALSE(HasStressSection(section)) << "with the numbers of the T";
 }
 
 TEST(IsSameSection, SeesSizeMaterialAndProperties)
