@@ -138,8 +138,8 @@ void ExplainPoint(const PieceTeller& teller, int row)
 {
     const double x = teller.Beam.LoadX[row][1];
     teller.Text.Sentence("At a point the whole load acts at once, so that the shear diagram "
-                         "jumps by it. The moment diagram gets a kink there: its slope is the "
-                         "shear.");
+                         "jumps by it. The moment diagram gets a kink there: its slope jumps as "
+                         "the shear does.");
     teller.TellShearJump(x);
 }
 
@@ -154,7 +154,12 @@ void ExplainMoment(const PieceTeller& teller, int row)
 
 void ExplainUniform(const PieceTeller& teller, int row)
 {
-    teller.Text.Sentence("Under a uniform load the slope of the shear diagram is the load itself.");
+    teller.Text.Sentence(
+        "Under a uniform load the slope of the shear diagram has the size of the load: the "
+        "diagram " +
+        std::string(teller.ShearSign > 0
+                        ? "falls under a downward load and rises under an upward one."
+                        : "rises under a downward load and falls under an upward one."));
     for (const Piece& piece : teller.Pieces()) {
         bool under = false;
         for (const int other : piece.Rows) under = under || other == row;

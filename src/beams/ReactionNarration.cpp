@@ -42,7 +42,7 @@ class ReactionTeller : public BeamTeller {
         Text.Sentence("Cut the beam free of its supports and let the forces A and B act upward in "
                       "their place. Two equations of moments give them, a sum of forces checks "
                       "them.");
-        Text.Line("They stand at a = " + Position(Beam.SupportA) +
+        Text.Line("The supports stand at a = " + Position(Beam.SupportA) +
                   " and b = " + Position(Beam.SupportB) + ".");
         ListResultants();
         SolveOne({"B", "b", Beam.SupportB, true}, "A", Reactions.ReactionA[Case]);
@@ -141,7 +141,7 @@ class ReactionTeller : public BeamTeller {
         const std::string moment = "M" + axis.Name;
         Text.Sentence("Cut the beam free of its wall, which gives it an upward force " + axis.Name +
                       " and a counterclockwise moment " + moment + ".");
-        Text.Line("It stands at " + axis.At + " = " + Position(axis.X) + ".");
+        Text.Line("The wall stands at " + axis.At + " = " + Position(axis.X) + ".");
         ListResultants();
         Text.Heading("Sum of vertical forces");
         const double force = SumOfForces();

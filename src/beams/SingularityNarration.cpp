@@ -11,6 +11,7 @@ namespace forcelab::beams {
 namespace {
 
 constexpr int kHighestPower = 4;
+constexpr double kNoise = 1e-9; // of a value, left by rounding
 
 /// Coefficient × ⟨x - At⟩ to a power, over the power's factorial; consistent units.
 struct BracketTerm {
@@ -57,6 +58,9 @@ class SingularityTeller : public BeamTeller {
         Text.Heading("The " + std::string(words_.Quantity) + " as a function of x");
         Text.Line("A bracket ⟨x - a⟩ is zero as long as x is less than a; from there on it is an "
                   "ordinary parenthesis.");
+        if (HasEndForces())
+            Text.Line("What acts at the right end is left out: its bracket would begin where the "
+                      "beam ends.");
         WriteFunction();
         if (words_.Order >= 2) ExplainConstants();
         EvaluateAtLargest();
@@ -74,6 +78,17 @@ class SingularityTeller : public BeamTeller {
     }
     [[nodiscard]] double SignFor(int order) const { return order == 0 ? ShearSign : 1; }
 
+    /// What acts at the right end never comes into its own, since x ends there.
+    [[nodiscard]] bool BeginsBeforeEnd(double x) const { return x < Beam.BeamLength; }
+    [[nodiscard]] bool HasEndForces() const
+    {
+        if (Beam.SupportType != kFixedLeft && !BeginsBeforeEnd(Beam.SupportB)) return true;
+        for (int row = 1; row <= Beam.LoadCount; ++row)
+            if (Beam.LoadClass[row] != kUniformLoad && !BeginsBeforeEnd(Beam.LoadX[row][1]))
+                return true;
+        return false;
+    }
+
     void AddReactions(std::vector<BracketTerm>& terms, int order) const
     {
         const auto add = [&](double force, double moment, double x) {
@@ -82,8 +97,7 @@ class SingularityTeller : public BeamTeller {
         };
         if (Beam.SupportType != kFixedRight)
             add(Reactions.ReactionA[Case], Reactions.MomentA[Case], Beam.SupportA);
-        // A support at the right end never comes into its own, since x ends there.
-        if (Beam.SupportType == kTwoSupports && Beam.SupportB < Beam.BeamLength)
+        if (Beam.SupportType == kTwoSupports && BeginsBeforeEnd(Beam.SupportB))
             add(Reactions.ReactionB[Case], 0, Beam.SupportB);
     }
 
@@ -99,8 +113,8 @@ class SingularityTeller : public BeamTeller {
             const double coefficient =
                 -SignFor(order) * Consistent(q, 1 - int(Beam.LoadClass[row]));
             if (power < 0) continue; // a moment leaves the shear alone
-            terms.push_back({coefficient, x[1], power});
-            if (Beam.LoadClass[row] == kUniformLoad && x[2] < Beam.BeamLength)
+            if (BeginsBeforeEnd(x[1])) terms.push_back({coefficient, x[1], power});
+            if (Beam.LoadClass[row] == kUniformLoad && BeginsBeforeEnd(x[2]))
                 terms.push_back({-coefficient, x[2], power});
         }
         return terms;
@@ -212,12 +226,23 @@ class SingularityTeller : public BeamTeller {
         Line("C2", "-Y(" + where + ") - C1 × " + where, Number(-y) - Number(c1) * Number(x), 3);
     }
 
+    /// Where the curve first has its largest size, which it may keep from there on.
+    [[nodiscard]] double FirstOfSize(double size, double found) const
+    {
+        const double least = size * (1 - kNoise);
+        for (int i = 1; i <= kCurvePoints; ++i) {
+            const double x = Curves.CurveX[i];
+            if (x < found && std::abs(At(x).*words_.Value) >= least) return x;
+        }
+        return found;
+    }
+
     /// The value of largest size, computed from the function.
     void EvaluateAtLargest() const
     {
         const ExtremeTable& table = Curves.*words_.Extremes;
         if (table[2][words_.Row] == 0) return;
-        const double x = table[1][words_.Row];
+        const double x = FirstOfSize(table[2][words_.Row], table[1][words_.Row]);
         const double exact = At(x).*words_.Value;
         Text.Heading("Its largest value in size, at " + Position(x));
         std::vector<SignedTerm> sum = Evaluate(words_.Order, x);

@@ -275,6 +275,46 @@ TEST(DisplaySingularity, WritesTheFourFunctions)
                                 "-255.9 kN-m²")));
 }
 
+TEST(DisplaySingularity, LeavesOutWhatActsAtTheRightEnd)
+{
+    BeamRecord beam = Cantilever(kFixedRight, 8, kFoot);
+    Add(beam, kPointDown, 0, 0, 2, kKip);
+    Add(beam, kMomentCw, 8, 0, 6, kKip);
+    const Told told = Tell(beam, {kFoot, kKip, kKip, 0, 0, 1});
+    const std::string moment = DisplaySingularity(told.View(), Diagram::Moment);
+    EXPECT_THAT(moment, HasSubstr("What acts at the right end is left out"));
+    EXPECT_THAT(moment, HasSubstr(Local("M(x) = -2.0⟨x - 0.0⟩¹, in ")));
+    EXPECT_THAT(moment, HasSubstr(Local("M(8.0) = -2.0 × (8.0 - 0.0) = -16.0")));
+    beam = Beam(kTwoSupports, 10, 0, 8, kFoot);
+    Add(beam, kPointDown, 4, 0, 2, kKip);
+    const Told within = Tell(beam, {kFoot, kKip, kKip, 0, 0, 1});
+    EXPECT_THAT(DisplaySingularity(within.View(), Diagram::Moment),
+                Not(HasSubstr("What acts at the right end")));
+}
+
+TEST(ExplainLoadDiagram, SaysHowAUniformLoadLeadsTheShear)
+{
+    BeamRecord beam = Simple(10, kMetre);
+    Add(beam, kUniformDown, 0, 10, 5, kKn);
+    const auto text = [&] {
+        return ExplainLoadDiagram(Tell(beam, {kMetre, kKn, kKn, 0, 0, 1}).View(), 1);
+    };
+    EXPECT_THAT(text(), HasSubstr("falls under a downward load"));
+    beam.ReverseShearSign = true;
+    EXPECT_THAT(text(), HasSubstr("rises under a downward load"));
+}
+
+/// An upward load takes the shear to 5.2 kN at 3 m, where it stays.
+TEST(DisplaySingularity, TakesTheFirstOfEqualLargestValues)
+{
+    BeamRecord beam = Beam(kTwoSupports, 6, 1, 6, kMetre);
+    Add(beam, kUniformUp, 0, 3, 4, kKn);
+    Add(beam, kPointDown, 4, 0, 10, kKn);
+    const Told told = Tell(beam, {kMetre, kKn, kKn, 0, 1, 1});
+    EXPECT_THAT(DisplaySingularity(told.View(), Diagram::Shear),
+                HasSubstr(Local("V(3.0) = -6.8 + 4.0 × (3.0 - 0.0) = 5.2 kN")));
+}
+
 TEST(DisplaySingularity, OfACantileverHasNoConstantsAtTheLeftWall)
 {
     BeamRecord beam = Cantilever(kFixedLeft, 100, kInch);
