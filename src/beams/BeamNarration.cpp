@@ -203,7 +203,7 @@ std::string BeamExplanations(const BeamView& view)
 {
     if (view.Beam.SupportType == kNoBeam) return "";
     Narration text;
-    text.Line(ExplainReactions(view));
+    text.Line(ExplainReactions(view, ShearMomentCase(view.Beam)));
     const PieceTeller teller(text, view, ShearMomentCase(view.Beam));
     if (view.Beam.LoadCount == 0) return text.Text();
     TellShearDiagram(teller);

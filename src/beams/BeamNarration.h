@@ -26,8 +26,8 @@ enum class Diagram { Shear, Moment, Slope, Deflection };
 /// Loads, reactions, shear and moment piece by piece, and where the extremes lie.
 std::string BeamExplanations(const BeamView& view);
 
-/// The equations of equilibrium with each term named, put in and summed.
-std::string ExplainReactions(const BeamView& view);
+/// The equations of equilibrium of a load case, with each term named, put in and summed.
+std::string ExplainReactions(const BeamView& view, int loadCase);
 
 /// How the shear diagram (or, for a moment load, the moment diagram) follows from load `row`.
 std::string ExplainLoadDiagram(const BeamView& view, int row);

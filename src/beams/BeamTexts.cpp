@@ -75,9 +75,9 @@ std::string DeflectionText(double eiDeflection, const DiagramUnits& units)
 }
 
 std::vector<std::string> FillReactionList(const BeamRecord& beam, const BeamReactions& reactions,
-                                          const DiagramUnits& units)
+                                          const DiagramUnits& units, int loadCase)
 {
-    const int c = ShearMomentCase(beam);
+    const int c = loadCase;
     std::vector<std::string> lines;
     const auto force = [&](const std::string& name, double value) {
         lines.push_back(Line(name, ForceText(std::abs(value), units), kForceUnits.at(units.Force),

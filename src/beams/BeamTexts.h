@@ -40,9 +40,9 @@ std::string SmallText(double scaled);
 std::string SlopeText(double eiSlope, const DiagramUnits& units);
 std::string DeflectionText(double eiDeflection, const DiagramUnits& units);
 
-/// The lines of cboReactions for the case of shear and moment: "A = 30.6 kN (up)",
+/// The lines of cboReactions for a load case, as on the load diagram: "A = 30.6 kN (up)",
 /// "MA = 158.0 kN-m (ccw)".
 std::vector<std::string> FillReactionList(const BeamRecord& beam, const BeamReactions& reactions,
-                                          const DiagramUnits& units);
+                                          const DiagramUnits& units, int loadCase);
 
 } // namespace forcelab::beams

@@ -168,10 +168,10 @@ class ReactionTeller : public BeamTeller {
 
 } // namespace
 
-std::string ExplainReactions(const BeamView& view)
+std::string ExplainReactions(const BeamView& view, int loadCase)
 {
     Narration text;
-    const ReactionTeller teller(text, view, ShearMomentCase(view.Beam));
+    const ReactionTeller teller(text, view, loadCase);
     teller.ListLoads();
     teller.Explain();
     return text.Text();

@@ -55,7 +55,8 @@ TEST_P(FiftyBeams, EveryLineFollowsFromItsOwnNumbers)
     const BeamView view = told.View();
     const BeamRecord& beam = view.Beam;
     EXPECT_GE(ProveText(BeamExplanations(view)), 2 + beam.LoadCount);
-    EXPECT_GE(ProveText(ExplainReactions(view)), beam.SupportType == kTwoSupports ? 4 : 0);
+    EXPECT_GE(ProveText(ExplainReactions(view, ShearMomentCase(beam))),
+              beam.SupportType == kTwoSupports ? 4 : 0);
     for (int row = 1; row <= beam.LoadCount; ++row)
         EXPECT_GE(ProveText(ExplainLoadDiagram(view, row)), 1) << row;
     for (int k = 0; k < 20; ++k) ProveText(ExplainShearDiagram(view, beam.BeamLength * k / 19));
@@ -145,7 +146,7 @@ Told FirstExample()
 TEST(ExplainReactions, WritesTheEquations)
 {
     const Told told = FirstExample();
-    const std::string text = ExplainReactions(told.View());
+    const std::string text = ExplainReactions(told.View(), kUnfactored);
     for (const std::string line : {"W of 1w = 1w × length = 5.0 × (10.0 - 0.0) = 50.0 kN",
                                    "Moment of 1P = 1P × (b - x) = 8.0 × (10.0 - 3.0) = 56.0 kN-m",
                                    "Sum about B = 250.0 + 56.0 = 306.0 kN-m",
@@ -175,11 +176,11 @@ TEST(ExplainReactions, OfACantilever)
     Add(beam, kMomentCcw, 5, 0, 50, kKn);
     Add(beam, kPointDown, 9, 0, 12, kKn);
     const Told told = Tell(beam, {kMetre, kKn, kKn, 0, 0, 1});
-    const std::string text = ExplainReactions(told.View());
+    const std::string text = ExplainReactions(told.View(), kUnfactored);
     EXPECT_THAT(text, HasSubstr(Local("A = Sum of loads = 52.0 kN")));
     EXPECT_THAT(text, HasSubstr(Local("Sum about A = 100.0 + 108.0 + (-50.0) = 158.0 kN-m")));
     EXPECT_THAT(text, HasSubstr(Local("counterclockwise with 158.0 kN-m")));
-    const auto lines = FillReactionList(beam, told.Beam.Reactions, told.Units);
+    const auto lines = FillReactionList(beam, told.Beam.Reactions, told.Units, kUnfactored);
     EXPECT_THAT(lines,
                 testing::ElementsAre(Local("A = 52.0 kN (up)"), Local("MA = 158.0 kN-m (ccw)")));
 }
@@ -187,7 +188,7 @@ TEST(ExplainReactions, OfACantilever)
 TEST(ExplainReactions, HasLittleToSayWithoutLoads)
 {
     const Told told = Tell(Simple(10, kFoot), {});
-    EXPECT_THAT(ExplainReactions(told.View()), HasSubstr("all reactions are 0"));
+    EXPECT_THAT(ExplainReactions(told.View(), kUnfactored), HasSubstr("all reactions are 0"));
     EXPECT_EQ(BeamExplanations(Tell({}, {}).View()), "");
     EXPECT_EQ(ExplainLoadDiagram(told.View(), 1), "") << "there is no such load";
     EXPECT_THAT(DisplaySingularity(told.View(), Diagram::Shear), HasSubstr(Local("V(x) = 0.0")));

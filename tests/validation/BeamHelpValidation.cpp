@@ -45,7 +45,7 @@ Lines MomentLabels(const Solved& s, const DiagramUnits& units)
 }
 Lines Reactions(const Solved& s, const DiagramUnits& units)
 {
-    return FillReactionList(s.Beam, s.Reactions, units);
+    return FillReactionList(s.Beam, s.Reactions, units, ShearMomentCase(s.Beam));
 }
 Lines In(Lines lines)
 {

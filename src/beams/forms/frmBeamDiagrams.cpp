@@ -124,6 +124,8 @@ void frmBeamDiagrams::SetView(bool slopeView)
     ShowCurvesOf(slopeView);
     ShowStiffness();
     RefreshPictures(kAllPictures);
+    FillLists();
+    ExplainAgain();
     ClearPoint(CurrentPoint);
     TellPointChanged();
 }
@@ -190,7 +192,8 @@ void frmBeamDiagrams::FillLists()
         loads = MakeLabels(CurrentBeam);
         try {
             Recompute();
-            reactions = FillReactionList(CurrentBeam, CurrentReactions, ShownDiagramUnits);
+            reactions =
+                FillReactionList(CurrentBeam, CurrentReactions, ShownDiagramUnits, LoadCaseShown());
         } catch (const ArithmeticFault&) {
             reactions.clear(); // the diagrams tell of it
         }

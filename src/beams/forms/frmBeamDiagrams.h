@@ -84,6 +84,7 @@ class frmBeamDiagrams : public frmBeamDiagramsLayout {
 
     // The tutor.
     void cboLoads_Click(int ListIndex);
+    void cboReactions_Click();
     void cmdDiscontinuity_Click(int Index);
     void Explain(int pane, std::string_view caption, const Teller& tell);
     void ExplainPiece(double x);

@@ -39,8 +39,7 @@ void frmBeamDiagrams::Connect()
     On(hsbX, &QScrollBar::actionTriggered, [this] { hsbX_ActionTriggered(); });
     On(hsbX, &QScrollBar::valueChanged, [this] { hsbX_Change(); });
     On(cboLoads, &QComboBox::activated, [this](int row) { cboLoads_Click(row); });
-    On(cboReactions, &QComboBox::activated,
-       [this] { Explain(kReactionPane, "Equilibrium", ExplainReactions); });
+    On(cboReactions, &QComboBox::activated, [this] { cboReactions_Click(); });
     OnClick(cmdDiscontinuity, [this](int index) { cmdDiscontinuity_Click(index); });
     OnClick(cmdCloseExplain, [this](int) { CloseExplanation(); });
     auto* escape = new QShortcut(QKeySequence(Qt::Key_Escape), this);

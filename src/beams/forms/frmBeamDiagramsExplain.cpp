@@ -64,6 +64,13 @@ void frmBeamDiagrams::cboLoads_Click(int ListIndex)
             [row = ListIndex + 1](const BeamView& view) { return ExplainLoadDiagram(view, row); });
 }
 
+// The reactions of the view: with load factors they are others for the slopes.
+void frmBeamDiagrams::cboReactions_Click()
+{
+    Explain(kReactionPane, "Equilibrium",
+            [](const BeamView& view) { return ExplainReactions(view, LoadCaseShown()); });
+}
+
 void frmBeamDiagrams::mnuExplain_Click()
 {
     Explain(kLoadPane, "The Beam from Its Equilibrium to Its Moments", BeamExplanations);

@@ -36,7 +36,7 @@ void frmBeamDiagrams::picLoadDiagram_MouseUp(const screen::MouseAction& mouse)
         return ClickOnLoad(mouse.Button);
     case kOverReactionA:
     case kOverReactionB:
-        return Explain(kReactionPane, "Equilibrium", ExplainReactions);
+        return cboReactions_Click();
     default:
         return;
     }

@@ -9,6 +9,7 @@ using test::Local;
 using test::Near;
 using testing::AllOf;
 using testing::Contains;
+using testing::HasSubstr;
 using testing::Not;
 
 // Problems typed through both forms; what must stand on the pictures is worked out by hand.
@@ -115,6 +116,27 @@ TEST_F(BeamProblem, FactoredLoads)
     const double inches = 5 * 5000 / 12.0 * std::pow(240.0, 4) / (384 * 29e6 * 999);
     EXPECT_TRUE(Near(inches, 0.62131, 1e-5));
     EXPECT_THAT(Lines("picDeflectionDiagram"), Contains(Local("-0.62131")));
+}
+
+// 7.2 x 20 / 2 = 72 kips with the factors, 5 x 20 / 2 = 50 without them.
+TEST_F(BeamProblem, ReactionsAreThoseOfTheView)
+{
+    DefineSimple("20", "0", "20");
+    Trigger("mnuLF(1)");
+    ChooseLoadUnits(1);
+    EnterFactoredUniform("0", "20", "2", "3");
+    Diagrams();
+    const auto& reactions = Find<screen::ComboBox>("cboReactions");
+    EXPECT_EQ(reactions.itemText(0).toStdString(), Local("A = 72.0 kips (up)"));
+    Messages->AcceptAny = true; // of EI
+    Trigger("mnuSlopeDeflection");
+    EXPECT_EQ(reactions.itemText(0).toStdString(), Local("A = 50.0 kips (up)"));
+    EXPECT_THAT(Lines("picLoadDiagram"), Contains(Local("A = 50.0 kips")));
+    Q_EMIT Find<screen::ComboBox>("cboReactions").activated(0);
+    EXPECT_THAT(Shown("txtExplainReactions"), HasSubstr(Local("= 50.0 kips")));
+    Trigger("mnuShearMoment");
+    EXPECT_EQ(reactions.itemText(0).toStdString(), Local("A = 72.0 kips (up)"));
+    EXPECT_THAT(Shown("txtExplainReactions"), HasSubstr(Local("= 72.0 kips")));
 }
 
 TEST_F(BeamProblem, FortyLoadsOfAllKinds)
