@@ -1,6 +1,5 @@
+#include "LoadedBeam.h"
 #include "app/FormList.h"
-#include "beams/BeamEntry.h"
-#include "beams/BeamLabels.h"
 #include "beams/DiagramRequest.h"
 #include "core/screen/Form.h"
 #include "core/screen/Forms.h"
@@ -21,23 +20,9 @@ using screen::Forms;
 
 constexpr const char* kDiagrams = "frmBeamDiagrams";
 
-void LoadBeam(int loads)
-{
-    BeamRecord& beam = CurrentBeam;
-    beam = {};
-    SetBeamGeometry(beam, kTwoSupports, 100, 10, 85, 1);
-    for (int i = 1; i <= loads; ++i) {
-        const double x = 100.0 * i / (loads + 1);
-        const double end = std::min(x + 2.0 * (i % 7), 100.0);
-        StoreBeamLoad(beam, i, {i % kLoadKinds, x, end, 1, 1.0 + i % 5, 0, 1});
-    }
-    beam.LoadCount = loads;
-    MakeLabels(beam);
-}
-
 screen::Form& OpenWith(int loads)
 {
-    LoadBeam(loads);
+    CurrentBeam = LoadedBeam(loads);
     screen::Form& form = *Forms::Load(kDiagrams);
     form.resize(880, 900);
     Forms::Show(kDiagrams);

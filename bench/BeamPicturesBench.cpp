@@ -1,4 +1,4 @@
-#include "beams/BeamEntry.h"
+#include "LoadedBeam.h"
 #include "beams/CurveDiagram.h"
 #include "beams/LoadDiagram.h"
 #include "core/screen/PictureBox.h"
@@ -15,20 +15,6 @@
 
 namespace forcelab::beams {
 namespace {
-
-/// Loads of all kinds, spread over 100 ft with overhangs at both ends.
-BeamRecord LoadedBeam(int loads)
-{
-    BeamRecord beam;
-    SetBeamGeometry(beam, kTwoSupports, 100, 10, 85, 1);
-    for (int i = 1; i <= loads; ++i) {
-        const double x = 100.0 * i / (loads + 1);
-        StoreBeamLoad(
-            beam, i, {i % kLoadKinds, x, std::min(x + 2.0 * (i % 7), 100.0), 1, 1.0 + i % 5, 0, 1});
-    }
-    beam.LoadCount = loads;
-    return beam;
-}
 
 /// The pictures of one view over one beam, as the form paints them.
 struct View {

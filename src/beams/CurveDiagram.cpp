@@ -354,30 +354,6 @@ CurveFrame DrawCurveDiagram(Picture& pic, CurveKind kind, const BeamRecord& beam
     return CurveSheet(pic, kind, beam, curves, units).Draw(markerX);
 }
 
-CurveFrame DrawShearDiagram(Picture& pic, const BeamRecord& beam, const BeamCurves& curves,
-                            const DiagramUnits& units, std::optional<double> markerX)
-{
-    return DrawCurveDiagram(pic, CurveKind::Shear, beam, curves, units, markerX);
-}
-
-CurveFrame DrawMomentDiagram(Picture& pic, const BeamRecord& beam, const BeamCurves& curves,
-                             const DiagramUnits& units, std::optional<double> markerX)
-{
-    return DrawCurveDiagram(pic, CurveKind::Moment, beam, curves, units, markerX);
-}
-
-CurveFrame DrawSlopeDiagram(Picture& pic, const BeamRecord& beam, const BeamCurves& curves,
-                            const DiagramUnits& units, std::optional<double> markerX)
-{
-    return DrawCurveDiagram(pic, CurveKind::Slope, beam, curves, units, markerX);
-}
-
-CurveFrame DrawDeflectionDiagram(Picture& pic, const BeamRecord& beam, const BeamCurves& curves,
-                                 const DiagramUnits& units, std::optional<double> markerX)
-{
-    return DrawCurveDiagram(pic, CurveKind::Deflection, beam, curves, units, markerX);
-}
-
 Refusal PlotFailure(CurveKind kind)
 {
     const std::string& line = MainModule::CrLf;

@@ -27,22 +27,13 @@ struct SignSketchBox {
 inline constexpr SignSketchBox kSignSketch{3, 3, 56, 32};
 
 /// Draws a curve over the place that the beam takes on the load diagram: key points with their
-/// positions, the area under the curve, and its values in the units of the diagrams. `markerX`, in
-/// inches, puts a vertical line at the point of the readout. Draws nothing without a beam; throws
-/// ArithmeticFault where a value is not finite, for which PlotFailure has the message.
+/// positions, the area under the curve, and its values in the units of the diagrams; the shear has
+/// its sign convention at the upper left. `markerX`, in inches, puts a vertical line at the point
+/// of the readout. Draws nothing without a beam; throws ArithmeticFault where a value is not
+/// finite, for which PlotFailure has the message.
 CurveFrame DrawCurveDiagram(Picture& pic, CurveKind kind, const BeamRecord& beam,
                             const BeamCurves& curves, const DiagramUnits& units,
                             std::optional<double> markerX = {});
-
-/// The shear diagram, with the sign convention at its upper left.
-CurveFrame DrawShearDiagram(Picture& pic, const BeamRecord& beam, const BeamCurves& curves,
-                            const DiagramUnits& units, std::optional<double> markerX = {});
-CurveFrame DrawMomentDiagram(Picture& pic, const BeamRecord& beam, const BeamCurves& curves,
-                             const DiagramUnits& units, std::optional<double> markerX = {});
-CurveFrame DrawSlopeDiagram(Picture& pic, const BeamRecord& beam, const BeamCurves& curves,
-                            const DiagramUnits& units, std::optional<double> markerX = {});
-CurveFrame DrawDeflectionDiagram(Picture& pic, const BeamRecord& beam, const BeamCurves& curves,
-                                 const DiagramUnits& units, std::optional<double> markerX = {});
 
 /// The message for a curve that cannot be plotted.
 Refusal PlotFailure(CurveKind kind);

@@ -1,5 +1,7 @@
 #include "beams/DiagramScale.h"
 
+#include "core/MainModule.h"
+
 namespace forcelab::beams {
 
 namespace {
@@ -23,6 +25,17 @@ Stiffness StiffnessOf(const sections::CrossSection& section)
                   record(CompositeRow::InertiaAsA, Column::CompositeZzInches)
             : record(Row::Modulus, Column::ZzInches) * record(Row::Inertia, Column::ZzInches);
     return ei > 1 ? Stiffness{ei, false} : Stiffness{};
+}
+
+Refusal NoStiffnessNotice()
+{
+    const std::string& line = MainModule::CrLf;
+    return {kInformation, "Slope/Deflection Message",
+            "A value of EI = 1 will be used for now, but you should" + line +
+                "define a shape from the Cross-Section menu." + line + line +
+                "(Note:  Divide the displayed slopes and deflections by the" + line +
+                "actual EI to find the true slopes and deflections.)",
+            ""};
 }
 
 DiagramScale ScaleOf(const ExtremeTable& extremes, int sizeRow, double valueScale)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "beams/BeamCurves.h"
+#include "core/Refusal.h"
 #include "sections/SectionRecord.h"
 
 namespace forcelab::beams {
@@ -11,6 +12,8 @@ struct Stiffness {
     bool EIMissing = true; ///< no section, or EI of 1 or less: BeamEI is then 1
 };
 Stiffness StiffnessOf(const sections::CrossSection& section);
+/// What a student is told where slopes and deflections are first shown with an EI of 1.
+Refusal NoStiffnessNotice();
 
 /// The vertical scale of a curve picture before its margins for text, in divided values.
 struct DiagramScale {

@@ -132,6 +132,24 @@ PointCaptions CaptionsOfPoint(bool slopeView, const DiagramUnits& units)
             length};
 }
 
+std::string PointSentence(const PointReadout& point, const DiagramUnits& units)
+{
+    using Words = std::array<std::string_view, 2>;
+    const Words names =
+        point.SlopeView ? Words{"slope", "deflection"} : Words{"shear force", "bending moment"};
+    const Words captions =
+        point.SlopeView ? Words{kSlopeUnits.at(units.Slope), kDeflectionUnits.at(units.Deflection)}
+                        : Words{kForceUnits.at(units.Force), kMomentUnits.at(units.Moment)};
+    std::string line =
+        "At X = " + point.XText + " " + std::string(kLengthUnits.at(units.Length)) + ":";
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        const std::string& value = point.Finer[i].empty() ? point.Texts[i] : point.Finer[i];
+        line += (i == 0 ? " " : ", ") + std::string(names[i]) + " " + value + " " +
+                std::string(captions[i]);
+    }
+    return line;
+}
+
 std::optional<std::array<std::string, 2>>
 ForcesOfPoint(const PointReadout& point, const BeamRecord& beam, const DiagramUnits& units)
 {

@@ -54,6 +54,10 @@ struct PointCaptions {
 };
 PointCaptions CaptionsOfPoint(bool slopeView, const DiagramUnits& units);
 
+/// A point with its values in one line: "At X = 3.00 m: shear force 7.60 kN, bending moment 69.30
+/// kN-m".
+std::string PointSentence(const PointReadout& point, const DiagramUnits& units);
+
 /// What the boxes txtVM(1) and txtVM(2) take over from a point with shear and moment, in the units
 /// of the diagrams: the shear with its usual sign, whichever way it is plotted. Nothing where the
 /// point has none.

@@ -45,32 +45,53 @@ class BeamJourney : public FormTest {
         Click("cmdEnterLoad");
     }
 
-    void ChooseSteel(const std::string& shape)
+    void OpenSections()
     {
         Use("frmBeamStuf");
         Trigger("mnuSectionProperties");
         Use("frmProperties");
-        Trigger("mnuAISC(0)");
-        auto& list = dynamic_cast<QListWidget&>(Widget("lstSteelShapes"));
-        list.setCurrentItem(
-            list.findItems(QString::fromStdString(shape), Qt::MatchExactly).front());
+    }
+
+    void ComputeSection()
+    {
         Click("cmdShape(1)");
         Use("frmProperties");
         Click("cmdShape(2)");
     }
 
+    void ChooseSteel(const std::string& shape)
+    {
+        OpenSections();
+        Trigger("mnuAISC(0)");
+        auto& list = dynamic_cast<QListWidget&>(Widget("lstSteelShapes"));
+        list.setCurrentItem(
+            list.findItems(QString::fromStdString(shape), Qt::MatchExactly).front());
+        ComputeSection();
+    }
+
     void ChooseTee()
     {
-        Use("frmBeamStuf");
-        Trigger("mnuSectionProperties");
-        Use("frmProperties");
+        OpenSections();
         Trigger("mnuFlanged(4)");
         const std::vector<std::string> sizes{"8", "1", "9", "1"};
         for (std::size_t i = 0; i < sizes.size(); ++i)
             Type("txtShape(" + std::to_string(i) + ")", sizes[i]);
-        Click("cmdShape(1)");
-        Use("frmProperties");
-        Click("cmdShape(2)");
+        ComputeSection();
+    }
+
+    void OpenStresses()
+    {
+        Use("frmBeamStuf");
+        Trigger("mnuStress");
+        Use("frmDetails");
+    }
+
+    /// The stresses of the section, with the forces at x in feet.
+    void OpenStressesAt(const std::string& x)
+    {
+        OpenStresses();
+        Type("txtSpecificPoint", x);
+        Click("cmdSpecificPoint");
     }
 };
 
@@ -101,11 +122,7 @@ TEST_F(BeamJourney, APointGoesFromTheDiagramsToItsStressesAndToMohrsCircleAndBac
 {
     EnterSpan();
     ChooseTee();
-    Use("frmBeamStuf");
-    Trigger("mnuStress");
-    Use("frmDetails");
-    Type("txtSpecificPoint", "2");
-    Click("cmdSpecificPoint");
+    OpenStressesAt("2");
     EXPECT_EQ(Shown("txtVM(1)"), Local("500.00"));
     EXPECT_EQ(Shown("txtVM(2)"), Local("1,000.00"));
     Click("cmdVM(0)");
@@ -160,26 +177,16 @@ TEST_F(BeamJourney, AShapeThatIsOnlyChosenHasNoStresses)
 {
     EnterSpan();
     ChooseTee();
-    Use("frmBeamStuf");
-    Trigger("mnuStress");
-    Use("frmDetails");
-    Type("txtSpecificPoint", "2");
-    Click("cmdSpecificPoint");
+    OpenStressesAt("2");
     Click("cmdVM(0)");
-    Use("frmBeamStuf");
-    Trigger("mnuSectionProperties");
-    Use("frmProperties");
+    OpenSections();
     Trigger("mnuRectangular(0)");
     Trigger("mnuBack");
-    Use("frmBeamStuf");
-    Trigger("mnuStress");
-    Use("frmDetails");
+    OpenStresses();
     EXPECT_FALSE(IsVisible("picST(0)")) << "half of the T";
     EXPECT_FALSE(IsVisible("txtKeyStresses(0)"));
     ChooseTee();
-    Use("frmBeamStuf");
-    Trigger("mnuStress");
-    Use("frmDetails");
+    OpenStresses();
     EXPECT_TRUE(IsVisible("picST(0)"));
     Click("cmdVM(0)");
     EXPECT_THAT(Shown("txtKeyStresses(0)"), HasSubstr(Local("491.5")));
@@ -207,11 +214,7 @@ TEST_F(BeamJourney, AShorterBeamTakesThePointToItsEnd)
 {
     EnterSpan();
     ChooseTee();
-    Use("frmBeamStuf");
-    Trigger("mnuStress");
-    Use("frmDetails");
-    Type("txtSpecificPoint", "9");
-    Click("cmdSpecificPoint");
+    OpenStressesAt("9");
     EXPECT_EQ(Shown("txtVM(2)"), Local("500.00"));
     Click("cmdVM(0)");
     Use("frmBeamStuf");
@@ -229,11 +232,7 @@ TEST_F(BeamJourney, MohrsCircleOutlivesTheBeamThatItsPointCameFrom)
 {
     EnterSpan();
     ChooseTee();
-    Use("frmBeamStuf");
-    Trigger("mnuStress");
-    Use("frmDetails");
-    Type("txtSpecificPoint", "2");
-    Click("cmdSpecificPoint");
+    OpenStressesAt("2");
     Click("cmdVM(2)");
     Use("frmBeamStuf");
     Trigger("mnuNew");
@@ -255,11 +254,7 @@ TEST_F(BeamJourney, FileNewForgetsViewPointAndSection)
     ChooseTee();
     Use("frmBeamDiagrams");
     Trigger("mnuSlopeDeflection");
-    Use("frmBeamStuf");
-    Trigger("mnuStress");
-    Use("frmDetails");
-    Type("txtSpecificPoint", "2");
-    Click("cmdSpecificPoint");
+    OpenStressesAt("2");
     Use("frmBeamStuf");
     Trigger("mnuBack");
     Use("frmMainMenu");

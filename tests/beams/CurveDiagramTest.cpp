@@ -309,7 +309,8 @@ TEST(DrawCurveDiagram, WhatIsNotFiniteIsAFault)
     Solved solved = Solve(beam);
     solved.Curves.CurveShear[100] = std::numeric_limits<double>::infinity();
     RecordingPicture pic(800, 240);
-    EXPECT_THROW(DrawShearDiagram(pic, beam, solved.Curves, UnitsOf(beam, kKn)), ArithmeticFault);
+    EXPECT_THROW(DrawCurveDiagram(pic, CurveKind::Shear, beam, solved.Curves, UnitsOf(beam, kKn)),
+                 ArithmeticFault);
 }
 
 TEST(PlotFailure, NamesTheDiagram)

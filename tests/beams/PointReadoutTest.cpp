@@ -132,6 +132,20 @@ TEST(PointReadout, ATooLargeXIsAFaultAndLeavesThePoint)
     EXPECT_EQ(point.Texts[0], Local("20.60"));
 }
 
+TEST(PointReadout, IsToldInOneLineWithTheDigitsThatTell)
+{
+    const BeamRecord beam = LoadedSpan();
+    EXPECT_EQ(PointSentence(PointAt("2", beam, Metric()), Metric()),
+              "At X = 2 m: shear force " + Local("20.60") + " kN, bending moment " +
+                  Local("51.20") + " kN-m");
+    DiagramUnits stiff = Metric();
+    stiff.BeamEI = 29e6 * 999;
+    const PointReadout slope = PointAt("2", beam, stiff, true);
+    ASSERT_NE(slope.Finer[0], "");
+    EXPECT_EQ(PointSentence(slope, stiff), "At X = 2 m: slope " + slope.Finer[0] +
+                                               " radians, deflection " + slope.Finer[1] + " in");
+}
+
 TEST(PointReadout, HasTheCaptionsOfItsView)
 {
     const PointCaptions shear = CaptionsOfPoint(false, Metric());

@@ -2,6 +2,7 @@
 
 #include "beams/BeamLabels.h"
 #include "beams/DiagramRequest.h"
+#include "beams/DiagramScale.h"
 #include "beams/forms/DetailsWidth.h"
 #include "core/MainModule.h"
 #include "core/screen/Forms.h"
@@ -108,12 +109,7 @@ void frmBeamDiagrams::mnuSlopeDeflection_Click()
     SetView(true);
     if (ShownDiagramUnits.BeamEI != 1 || stiffnessTold_) return;
     stiffnessTold_ = true;
-    const std::string& line = MainModule::CrLf;
-    screen::MsgBox("A value of EI = 1 will be used for now, but you should" + line +
-                       "define a shape from the Cross-Section menu." + line + line +
-                       "(Note:  Divide the displayed slopes and deflections by the" + line +
-                       "actual EI to find the true slopes and deflections.)",
-                   kInformation, "Slope/Deflection Message");
+    Show(NoStiffnessNotice());
 }
 
 void frmBeamDiagrams::SetView(bool slopeView)
@@ -284,22 +280,7 @@ std::string frmBeamDiagrams::PointLine()
     if (!HasBeam()) return "Define a beam to see its diagrams.";
     if (!HasLoads()) return "Add a load to see what it does to the beam.";
     if (!CurrentPoint.X) return "Move the bar or click the beam to read its values at a point.";
-    const DiagramUnits& units = ShownDiagramUnits;
-    const bool slopes = CurrentPoint.SlopeView;
-    const std::array<std::string_view, 2> names =
-        slopes ? std::array<std::string_view, 2>{"slope", "deflection"}
-               : std::array<std::string_view, 2>{"shear force", "bending moment"};
-    const std::array<std::string_view, 2> captions =
-        slopes ? std::array{kSlopeUnits.at(units.Slope), kDeflectionUnits.at(units.Deflection)}
-               : std::array{kForceUnits.at(units.Force), kMomentUnits.at(units.Moment)};
-    std::string line =
-        "At X = " + CurrentPoint.XText + " " + std::string(kLengthUnits.at(units.Length)) + ":";
-    for (std::size_t i = 0; i < 2; ++i) {
-        const std::string& finer = CurrentPoint.Finer[i];
-        line += (i == 0 ? " " : ", ") + std::string(names[i]) + " " +
-                (finer.empty() ? CurrentPoint.Texts[i] : finer) + " " + std::string(captions[i]);
-    }
-    return line;
+    return PointSentence(CurrentPoint, ShownDiagramUnits);
 }
 
 } // namespace forcelab::beams
